@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QPixmap>
+#include <QString>
+
+namespace tavrin {
+
+// A drawing of the pictures folder by name ("home", "calculator"), at its own
+// size; an empty pixmap when there is none.
+QPixmap LoadPicture(const QString& name);
+
+}  // namespace tavrin

@@ -1,0 +1,89 @@
+#include "app/qt_ui.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QMessageBox>
+#include <QProcess>
+#include <QTime>
+#include <cstdlib>
+
+#include "app/form_view.h"
+#include "frame/app.h"
+
+namespace tavrin {
+
+namespace {
+
+QWidget* ActiveParent() { return QApplication::activeWindow(); }
+
+// Answers are CR LF lines; Qt's boxes want bare line feeds.
+QString ForDisplay(QString text) { return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")); }
+
+}  // namespace
+
+FormView* QtUi::viewOf(const Form& form) const { return views_.value(&form); }
+
+FormView* QtUi::ensureView(Form& form) {
+    FormView* view = views_.value(&form);
+    if (view == nullptr) {
+        FormView* home = nullptr;
+        if (Form* h = app_->find(QStringLiteral("frmHome")); h != nullptr && h != &form) {
+            home = views_.value(h);
+        }
+        view = new FormView(*app_, form, home);
+        views_.insert(&form, view);
+    }
+    return view;
+}
+
+void QtUi::showWindow(Form& form) {
+    FormView* view = ensureView(form);
+    view->show();
+    view->raise();
+    view->activateWindow();
+}
+
+void QtUi::showModal(Form& form) {
+    FormView* view = ensureView(form);
+    view->setWindowModality(Qt::ApplicationModal);
+    view->show();
+    view->raise();
+    QEventLoop loop;
+    QObject::connect(view, &QObject::destroyed, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void QtUi::windowUnloaded(Form& form) {
+    if (FormView* view = views_.take(&form)) {
+        view->dropForm();
+    }
+}
+
+void QtUi::message(const QString& title, const QString& text) {
+    QMessageBox box(QMessageBox::Warning, title, ForDisplay(text), QMessageBox::Ok, ActiveParent());
+    box.exec();
+}
+
+bool QtUi::question(const QString& title, const QString& text) {
+    QMessageBox box(QMessageBox::Warning, title, ForDisplay(text),
+                    QMessageBox::Yes | QMessageBox::No, ActiveParent());
+    return box.exec() == QMessageBox::Yes;
+}
+
+void QtUi::fatal(const QString& title, const QString& text) {
+    QMessageBox box(QMessageBox::Critical, title, ForDisplay(text), QMessageBox::Ok, ActiveParent());
+    box.exec();
+    std::_Exit(3);
+}
+
+void QtUi::processEvents() { QCoreApplication::processEvents(QEventLoop::AllEvents); }
+
+bool QtUi::startProgram(const QString& program) { return QProcess::startDetached(program, {}); }
+
+float QtUi::secondsSinceMidnight() {
+    return static_cast<float>(QTime::currentTime().msecsSinceStartOfDay()) / 1000.0f;
+}
+
+void QtUi::quit() { QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection); }
+
+}  // namespace tavrin

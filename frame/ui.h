@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+namespace tavrin {
+
+class Form;
+
+// Everything the logic asks of a display. The Qt windows, the script driver and
+// the tests each stand behind it.
+class Ui {
+public:
+    virtual ~Ui() = default;
+    // Creates the window's view if it has none, shows it without blocking and
+    // brings it forward.
+    virtual void showWindow(Form& form) = 0;
+    virtual void showModal(Form& form) = 0;
+    // The window is unloaded: its view goes.
+    virtual void windowUnloaded(Form& form) = 0;
+    // A box with the exclamation icon and the single button OK.
+    virtual void message(const QString& title, const QString& text) = 0;
+    // Yes and No, with the exclamation icon; true for Yes.
+    virtual bool question(const QString& title, const QString& text) = 0;
+    // The fatal box. The program ends when it is closed; a display that can
+    // go on (a test) returns, and the logic runs nothing more.
+    virtual void fatal(const QString& title, const QString& text) = 0;
+    virtual void processEvents() = 0;
+    // Starts a program by name, without waiting; false when it cannot be started.
+    virtual bool startProgram(const QString& program) = 0;
+    // The clock: seconds since midnight, as a 32-bit float.
+    virtual float secondsSinceMidnight() = 0;
+    // The last window is gone: the program ends.
+    virtual void quit() = 0;
+};
+
+}  // namespace tavrin

@@ -1,0 +1,261 @@
+#include "tools/drive/driver.h"
+
+#include <QJsonArray>
+#include <ostream>
+#include <stdexcept>
+
+#include "frame/form_registry.h"
+#include "tools/drive/json_line.h"
+
+namespace tavrin {
+
+namespace {
+
+void Write(std::ostream& out, const JsonLine& line) {
+    out << line.toUtf8().toStdString() << '\n';
+    out.flush();
+}
+
+// "frmX.Control" into its two names.
+bool SplitTarget(const QString& target, QString& form, QString& control) {
+    const int dot = static_cast<int>(target.indexOf(u'.'));
+    if (dot <= 0 || dot == target.size() - 1) {
+        return false;
+    }
+    form = target.left(dot);
+    control = target.mid(dot + 1);
+    return true;
+}
+
+bool IsList(ControlKind k) {
+    return k == ControlKind::Combo || k == ControlKind::DropDownList || k == ControlKind::ListBox;
+}
+
+bool IsClickable(ControlKind k) {
+    return k == ControlKind::Button || k == ControlKind::Option || k == ControlKind::Check ||
+           k == ControlKind::MenuItem;
+}
+
+JsonLine Describe(const QString& target, const Control& c) {
+    JsonLine line;
+    line.add("control", target);
+    switch (c.kind) {
+        case ControlKind::TextBox:
+            line.add("text", c.text);
+            break;
+        case ControlKind::Combo:
+            line.add("text", c.text);
+            break;
+        case ControlKind::DropDownList:
+        case ControlKind::ListBox:
+            line.add("text", c.listIndex >= 0 ? c.items[c.listIndex] : QString());
+            break;
+        case ControlKind::Image:
+            line.add("picture", c.picture);
+            break;
+        case ControlKind::Timer:
+        case ControlKind::Spin:
+            break;
+        default:
+            line.add("caption", c.caption);
+            break;
+    }
+    line.add("visible", c.visible).add("enabled", c.enabled);
+    if (c.kind == ControlKind::Option || c.kind == ControlKind::Check) {
+        line.add("value", c.value);
+    }
+    if (IsList(c.kind)) {
+        line.add("index", c.listIndex).add("items", QJsonArray::fromStringList(c.items));
+    }
+    return line;
+}
+
+}  // namespace
+
+void RecordingUi::message(const QString& title, const QString& text) {
+    Write(out_, JsonLine().add("event", "message").add("title", title).add("text", text));
+}
+
+bool RecordingUi::question(const QString& title, const QString& text) {
+    bool yes = false;
+    if (!answers_.empty()) {
+        yes = answers_.front();
+        answers_.pop_front();
+    }
+    Write(out_, JsonLine()
+                    .add("event", "question")
+                    .add("title", title)
+                    .add("text", text)
+                    .add("answer", yes ? "yes" : "no"));
+    return yes;
+}
+
+void RecordingUi::fatal(const QString&, const QString& text) {
+    Write(out_, JsonLine().add("event", "fatal").add("text", text));
+}
+
+int Driver::ExitCode(Status status) {
+    switch (status) {
+        case Status::Failed:
+            return 2;
+        case Status::Fatal:
+            return 3;
+        case Status::Going:
+        case Status::Finished:
+            break;
+    }
+    return 0;
+}
+
+Driver::Status Driver::fail(const QString& why) {
+    Write(out_, JsonLine().add("event", "error").add("text", why));
+    return Status::Failed;
+}
+
+Driver::Status Driver::afterStep() {
+    if (app_.ended()) {
+        return Status::Fatal;
+    }
+    if (ui_.quitting()) {
+        Write(out_, JsonLine().add("event", "end"));
+        return Status::Finished;
+    }
+    return Status::Going;
+}
+
+Form* Driver::openForm(const QString& name, QString& why) {
+    Form* form = app_.find(name);
+    if (form == nullptr) {
+        why = App::IsBuilt(name) ? QStringLiteral("window %1 is not open").arg(name)
+                                 : QStringLiteral("no window %1").arg(name);
+    }
+    return form;
+}
+
+Driver::Status Driver::show(const QString& target) {
+    QString formName;
+    QString controlName;
+    if (!target.contains(u'.')) {
+        const Form* form = app_.find(target);
+        if (form == nullptr && !App::IsBuilt(target)) {
+            return fail(QStringLiteral("no window %1").arg(target));
+        }
+        JsonLine line;
+        line.add("window", target).add("open", form != nullptr);
+        if (form != nullptr) {
+            line.add("title", form->title());
+        }
+        Write(out_, line);
+        return Status::Going;
+    }
+    if (!SplitTarget(target, formName, controlName)) {
+        return fail(QStringLiteral("expected FORM.CONTROL, not %1").arg(target));
+    }
+    QString why;
+    Form* form = openForm(formName, why);
+    if (form == nullptr) {
+        return fail(why);
+    }
+    if (!form->has(controlName)) {
+        return fail(QStringLiteral("no control %1 on %2").arg(controlName, formName));
+    }
+    Write(out_, Describe(target, form->control(controlName)));
+    return Status::Going;
+}
+
+Driver::Status Driver::run(const QString& rawLine) {
+    const QString line = rawLine.trimmed();
+    if (line.isEmpty() || line.startsWith(u'#')) {
+        return Status::Going;
+    }
+    const int firstBlank = static_cast<int>(line.indexOf(u' '));
+    const QString verb = firstBlank < 0 ? line : line.left(firstBlank);
+    const QString rest = firstBlank < 0 ? QString() : line.mid(firstBlank + 1).trimmed();
+    const int secondBlank = static_cast<int>(rest.indexOf(u' '));
+    const QString target = secondBlank < 0 ? rest : rest.left(secondBlank);
+    const QString argument = secondBlank < 0 ? QString() : rest.mid(secondBlank + 1).trimmed();
+
+    try {
+        if (verb == "answer") {
+            if (rest != "yes" && rest != "no") {
+                return fail(QStringLiteral("answer takes yes or no, not %1").arg(rest));
+            }
+            ui_.queueAnswer(rest == "yes");
+            return Status::Going;
+        }
+        if (verb == "show") {
+            return show(target);
+        }
+        if (verb == "open") {
+            if (!App::IsBuilt(target)) {
+                return fail(QStringLiteral("no window %1").arg(target));
+            }
+            app_.guarded([&] { app_.show(target); });
+            return afterStep();
+        }
+        if (verb == "close") {
+            QString why;
+            Form* form = openForm(target, why);
+            if (form == nullptr) {
+                return fail(why);
+            }
+            app_.userClose(*form);
+            return afterStep();
+        }
+        if (verb != "set" && verb != "click" && verb != "select" && verb != "type" &&
+            verb != "spin") {
+            return fail(QStringLiteral("unknown command %1").arg(verb));
+        }
+        QString formName;
+        QString controlName;
+        if (!SplitTarget(target, formName, controlName)) {
+            return fail(QStringLiteral("expected FORM.CONTROL, not %1").arg(target));
+        }
+        QString why;
+        Form* form = openForm(formName, why);
+        if (form == nullptr) {
+            return fail(why);
+        }
+        if (!form->has(controlName)) {
+            return fail(QStringLiteral("no control %1 on %2").arg(controlName, formName));
+        }
+        const Control& c = form->control(controlName);
+        if (verb == "set" || verb == "type") {
+            const bool fits = verb == "set" ? c.kind == ControlKind::TextBox
+                                            : c.kind == ControlKind::Combo;
+            if (!fits) {
+                return fail(QStringLiteral("%1 does not take %2").arg(target, verb));
+            }
+            QString text;
+            if (!ParseJsonString(argument, text)) {
+                return fail(QStringLiteral("expected a JSON string, not %1").arg(argument));
+            }
+            app_.userType(*form, controlName, text);
+        } else if (verb == "click") {
+            if (!IsClickable(c.kind)) {
+                return fail(QStringLiteral("%1 cannot be clicked").arg(target));
+            }
+            app_.userClick(*form, controlName);
+        } else if (verb == "select") {
+            bool number = false;
+            const int index = argument.toInt(&number);
+            if (!IsList(c.kind)) {
+                return fail(QStringLiteral("%1 is not a list").arg(target));
+            }
+            if (!number || index < 0 || index >= c.items.size()) {
+                return fail(QStringLiteral("%1 has no item %2").arg(target, argument));
+            }
+            app_.userSelect(*form, controlName, index);
+        } else {
+            if (c.kind != ControlKind::Spin || (argument != "up" && argument != "down")) {
+                return fail(QStringLiteral("spin takes a spin control and up or down"));
+            }
+            app_.userSpin(*form, controlName, argument == "up" ? 1 : -1);
+        }
+        return afterStep();
+    } catch (const std::logic_error& fault) {
+        return fail(QString::fromStdString(fault.what()));
+    }
+}
+
+}  // namespace tavrin
