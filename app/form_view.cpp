@@ -28,8 +28,12 @@ namespace {
 
 constexpr int kUsualFieldChars = 14;
 
-QString ForDisplay(QString text) { return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")); }
-QString FromDisplay(QString text) { return text.replace(u'\n', QStringLiteral("\r\n")); }
+QString ForDisplay(QString text) {
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+QString FromDisplay(QString text) {
+    return text.replace(u'\n', QStringLiteral("\r\n"));
+}
 
 int CharsWide(const QWidget* w, int chars) {
     return w->fontMetrics().horizontalAdvance(QLatin1Char('0')) * chars + 12;
@@ -42,8 +46,7 @@ bool IsSelector(ControlKind k) {
 
 Qt::WindowFlags FlagsFor(FormStyle style) {
     const Qt::WindowFlags fixedFrame = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                       Qt::WindowCloseButtonHint |
-                                       Qt::MSWindowsFixedSizeDialogHint;
+                                       Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
     switch (style) {
         case FormStyle::Home:
             return Qt::Window | fixedFrame;
@@ -200,9 +203,9 @@ QWidget* FormView::createTextBox(const Control& c, QWidget* parent) {
         box->setReadOnly(c.locked);
         box->setTabChangesFocus(true);
         box->setVerticalScrollBarPolicy(c.scrollBars == ScrollBars::None ? Qt::ScrollBarAlwaysOff
-                                                                          : Qt::ScrollBarAlwaysOn);
-        box->setHorizontalScrollBarPolicy(c.scrollBars == ScrollBars::Both ? Qt::ScrollBarAlwaysOn
-                                                                            : Qt::ScrollBarAlwaysOff);
+                                                                         : Qt::ScrollBarAlwaysOn);
+        box->setHorizontalScrollBarPolicy(
+            c.scrollBars == ScrollBars::Both ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
         box->setLineWrapMode(c.scrollBars == ScrollBars::Both ? QPlainTextEdit::NoWrap
                                                               : QPlainTextEdit::WidgetWidth);
         const int lines = c.heightLines > 0 ? c.heightLines : 4;
@@ -325,8 +328,9 @@ void FormView::buildRows() {
                 for (int i = 0; i < row.names.size(); ++i) {
                     QWidget* w = widgets_.value(row.names[i]);
                     const bool caption = i % 2 == 0;
-                    grid->addWidget(w, r, i, caption ? Qt::AlignLeft | Qt::AlignVCenter
-                                                     : Qt::AlignLeft | Qt::AlignVCenter);
+                    grid->addWidget(w, r, i,
+                                    caption ? Qt::AlignLeft | Qt::AlignVCenter
+                                            : Qt::AlignLeft | Qt::AlignVCenter);
                 }
                 break;
             case RowKind::Line: {
@@ -432,7 +436,9 @@ void FormView::place() {
     }
 }
 
-void FormView::controlChanged(const Control& control) { sync(control); }
+void FormView::controlChanged(const Control& control) {
+    sync(control);
+}
 
 void FormView::titleChanged() {
     if (form_ != nullptr) {

@@ -17,7 +17,7 @@ class App;
 // change the logic makes, and hands every user action to the logic.
 class FormView : public QWidget, public FormObserver {
     Q_OBJECT
-public:
+  public:
     FormView(App& app, Form& form, QWidget* owner);
     ~FormView() override;
 
@@ -29,11 +29,11 @@ public:
     void controlChanged(const Control& control) override;
     void titleChanged() override;
 
-protected:
+  protected:
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
 
-private:
+  private:
     QWidget* createWidget(const Control& c, QWidget* parent);
     QWidget* createTextBox(const Control& c, QWidget* parent);
     QWidget* createList(const Control& c, QWidget* parent);

@@ -14,14 +14,20 @@ namespace tavrin {
 
 namespace {
 
-QWidget* ActiveParent() { return QApplication::activeWindow(); }
+QWidget* ActiveParent() {
+    return QApplication::activeWindow();
+}
 
 // Answers are CR LF lines; Qt's boxes want bare line feeds.
-QString ForDisplay(QString text) { return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")); }
+QString ForDisplay(QString text) {
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
 
 }  // namespace
 
-FormView* QtUi::viewOf(const Form& form) const { return views_.value(&form); }
+FormView* QtUi::viewOf(const Form& form) const {
+    return views_.value(&form);
+}
 
 FormView* QtUi::ensureView(Form& form) {
     FormView* view = views_.value(&form);
@@ -71,19 +77,26 @@ bool QtUi::question(const QString& title, const QString& text) {
 }
 
 void QtUi::fatal(const QString& title, const QString& text) {
-    QMessageBox box(QMessageBox::Critical, title, ForDisplay(text), QMessageBox::Ok, ActiveParent());
+    QMessageBox box(QMessageBox::Critical, title, ForDisplay(text), QMessageBox::Ok,
+                    ActiveParent());
     box.exec();
     std::_Exit(3);
 }
 
-void QtUi::processEvents() { QCoreApplication::processEvents(QEventLoop::AllEvents); }
+void QtUi::processEvents() {
+    QCoreApplication::processEvents(QEventLoop::AllEvents);
+}
 
-bool QtUi::startProgram(const QString& program) { return QProcess::startDetached(program, {}); }
+bool QtUi::startProgram(const QString& program) {
+    return QProcess::startDetached(program, {});
+}
 
 float QtUi::secondsSinceMidnight() {
     return static_cast<float>(QTime::currentTime().msecsSinceStartOfDay()) / 1000.0f;
 }
 
-void QtUi::quit() { QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection); }
+void QtUi::quit() {
+    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+}
 
 }  // namespace tavrin

@@ -13,7 +13,7 @@ class FormView;
 // The Qt face of the logic: one FormView a loaded window, real message boxes,
 // the Qt event loop.
 class QtUi : public Ui {
-public:
+  public:
     void setApp(App* app) { app_ = app; }
     FormView* viewOf(const Form& form) const;
 
@@ -29,7 +29,7 @@ public:
     float secondsSinceMidnight() override;
     void quit() override;
 
-private:
+  private:
     FormView* ensureView(Form& form);
 
     App* app_ = nullptr;

@@ -15,7 +15,9 @@ void App::start() {
     guarded([&] { show(QStringLiteral("frmHome")); });
 }
 
-bool App::IsBuilt(const QString& name) { return FindFormBuilder(name) != nullptr; }
+bool App::IsBuilt(const QString& name) {
+    return FindFormBuilder(name) != nullptr;
+}
 
 Form* App::find(const QString& name) const {
     for (const auto& f : loaded_) {
@@ -160,6 +162,8 @@ void App::buryUnloaded() {
     }
 }
 
-void ProgramMessage(const Form& form, const QString& text) { form.app().programMessage(text); }
+void ProgramMessage(const Form& form, const QString& text) {
+    form.app().programMessage(text);
+}
 
 }  // namespace tavrin

@@ -18,7 +18,7 @@ class RunTimeError;
 // through which every user event enters the logic. An arithmetic failure that
 // no handler catches ends here, in the fatal box.
 class App {
-public:
+  public:
     App(Ui& ui, SettingsStore& settings);
     ~App();
 
@@ -66,7 +66,7 @@ public:
     template <typename Step>
     void guarded(Step&& step);
 
-private:
+  private:
     void fatal(const RunTimeError& error);
     void buryUnloaded();
 

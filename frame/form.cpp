@@ -48,7 +48,9 @@ Control& Form::addLabel(const QString& name, const QString& caption) {
     return add(ControlKind::Label, name, caption);
 }
 
-Control& Form::addTextBox(const QString& name) { return add(ControlKind::TextBox, name); }
+Control& Form::addTextBox(const QString& name) {
+    return add(ControlKind::TextBox, name);
+}
 
 Control& Form::addButton(const QString& name, const QString& caption) {
     return add(ControlKind::Button, name, caption);
@@ -140,7 +142,9 @@ const Control& Form::control(const QString& name) const {
     return *controls_[it.value()];
 }
 
-Control& Form::mutableControl(const QString& name) { return const_cast<Control&>(control(name)); }
+Control& Form::mutableControl(const QString& name) {
+    return const_cast<Control&>(control(name));
+}
 
 void Form::changed(const Control& c) {
     if (observer_ != nullptr) {
@@ -148,7 +152,9 @@ void Form::changed(const Control& c) {
     }
 }
 
-QString Form::text(const QString& name) const { return control(name).text; }
+QString Form::text(const QString& name) const {
+    return control(name).text;
+}
 
 void Form::setText(const QString& name, const QString& text) {
     Control& c = mutableControl(name);
@@ -169,7 +175,9 @@ void Form::typeText(const QString& name, const QString& text) {
     fire(name, Event::Change);
 }
 
-QString Form::caption(const QString& name) const { return control(name).caption; }
+QString Form::caption(const QString& name) const {
+    return control(name).caption;
+}
 
 void Form::setCaption(const QString& name, const QString& caption) {
     Control& c = mutableControl(name);
@@ -177,7 +185,9 @@ void Form::setCaption(const QString& name, const QString& caption) {
     changed(c);
 }
 
-bool Form::value(const QString& name) const { return control(name).value; }
+bool Form::value(const QString& name) const {
+    return control(name).value;
+}
 
 void Form::setValue(const QString& name, bool on) {
     Control& c = mutableControl(name);
@@ -207,7 +217,9 @@ void Form::setValue(const QString& name, bool on) {
     }
 }
 
-int Form::listIndex(const QString& name) const { return control(name).listIndex; }
+int Form::listIndex(const QString& name) const {
+    return control(name).listIndex;
+}
 
 void Form::setListIndex(const QString& name, int index) {
     Control& c = mutableControl(name);

@@ -52,11 +52,11 @@ struct Control {
     int widthChars = 0;   // 0: the renderer's usual width
     int heightLines = 0;  // visible lines of a multi-line box or a list
 
-    QString picture;         // images
-    int minimum = 0;         // spin controls
+    QString picture;  // images
+    int minimum = 0;  // spin controls
     int maximum = 0;
-    QString buddy;           // the text box a spin control steps
-    int interval = 0;        // timers, milliseconds
+    QString buddy;     // the text box a spin control steps
+    int interval = 0;  // timers, milliseconds
 };
 
 enum class Event { Load, Unload, Click, Change, Timer };
@@ -84,7 +84,7 @@ enum class FormStyle {
 
 // Told of every change the logic makes, so that a display can follow it.
 class FormObserver {
-public:
+  public:
     virtual ~FormObserver() = default;
     virtual void controlChanged(const Control& control) = 0;
     virtual void titleChanged() = 0;
@@ -94,7 +94,7 @@ public:
 // its controls while it is loaded. Handlers reach the controls by name; a name
 // that the window does not declare is a programming fault and throws.
 class Form {
-public:
+  public:
     Form(App& app, QString name);
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
@@ -174,7 +174,7 @@ public:
     // One step of a spin control: its text box moves by delta within the range.
     void spin(const QString& name, int delta);
 
-private:
+  private:
     Control& mutableControl(const QString& name);
     void changed(const Control& c);
 

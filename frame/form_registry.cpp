@@ -20,8 +20,12 @@ FormRegistration::FormRegistration(const char* name, FormBuildFn build) {
     Builders().insert(key, build);
 }
 
-FormBuildFn FindFormBuilder(const QString& name) { return Builders().value(name, nullptr); }
+FormBuildFn FindFormBuilder(const QString& name) {
+    return Builders().value(name, nullptr);
+}
 
-QStringList RegisteredFormNames() { return Builders().keys(); }
+QStringList RegisteredFormNames() {
+    return Builders().keys();
+}
 
 }  // namespace tavrin

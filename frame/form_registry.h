@@ -13,7 +13,7 @@ using FormBuildFn = void (*)(Form&);
 // Each window file holds one of these, naming the window and its build
 // function; nothing else in the tree needs to know the window exists.
 class FormRegistration {
-public:
+  public:
     FormRegistration(const char* name, FormBuildFn build);
 };
 

@@ -27,8 +27,8 @@ void ReadSettings(Form& f) {
     const std::int16_t top = StrictInt16(store.get("Ypos", "Ypos", "5000"));
     f.setPosition(left, top);
     for (int slot = 1; slot <= kQuickLauncherSlots; ++slot) {
-        f.addItem("Combo1", store.get("Quicklaunch", QString::number(slot),
-                                      DefaultQuickLauncherSlot(slot)),
+        f.addItem("Combo1",
+                  store.get("Quicklaunch", QString::number(slot), DefaultQuickLauncherSlot(slot)),
                   slot - 1);
     }
 }

@@ -11,9 +11,15 @@ namespace tavrin {
 
 namespace {
 
-bool IsSkipped(QChar c) { return c == u' ' || c == u'\t' || c == u'\n'; }
-bool IsDecimalDigit(QChar c) { return c >= u'0' && c <= u'9'; }
-bool IsOctalDigit(QChar c) { return c >= u'0' && c <= u'7'; }
+bool IsSkipped(QChar c) {
+    return c == u' ' || c == u'\t' || c == u'\n';
+}
+bool IsDecimalDigit(QChar c) {
+    return c >= u'0' && c <= u'9';
+}
+bool IsOctalDigit(QChar c) {
+    return c >= u'0' && c <= u'7';
+}
 
 int HexDigitValue(QChar c) {
     if (IsDecimalDigit(c)) {
@@ -51,7 +57,8 @@ Scan ScanRadix(const QString& s, int pos) {
     int count = 0;
     bool tooLarge = false;
     for (; i < s.size(); ++i) {
-        const int digit = base == 16 ? HexDigitValue(s[i]) : (IsOctalDigit(s[i]) ? s[i].unicode() - u'0' : -1);
+        const int digit =
+            base == 16 ? HexDigitValue(s[i]) : (IsOctalDigit(s[i]) ? s[i].unicode() - u'0' : -1);
         if (digit < 0) {
             break;
         }
@@ -69,9 +76,11 @@ Scan ScanRadix(const QString& s, int pos) {
     }
     const bool short16 = base == 16 ? count <= 4 : (count <= 6 && value <= 0xFFFF);
     if (short16) {
-        scan.value = static_cast<double>(static_cast<std::int16_t>(static_cast<std::uint16_t>(value)));
+        scan.value =
+            static_cast<double>(static_cast<std::int16_t>(static_cast<std::uint16_t>(value)));
     } else {
-        scan.value = static_cast<double>(static_cast<std::int32_t>(static_cast<std::uint32_t>(value)));
+        scan.value =
+            static_cast<double>(static_cast<std::int32_t>(static_cast<std::uint32_t>(value)));
     }
     return scan;
 }
@@ -189,10 +198,13 @@ QString DoubleMagnitudeText(double magnitude, bool zeroBeforePoint) {
         return t;
     }
     const std::string fraction = std::string(static_cast<std::size_t>(-e - 1), '0') + d.digits;
-    return (zeroBeforePoint ? QStringLiteral("0.") : QStringLiteral(".")) + QString::fromLatin1(fraction);
+    return (zeroBeforePoint ? QStringLiteral("0.") : QStringLiteral(".")) +
+           QString::fromLatin1(fraction);
 }
 
-bool IsTrulyNegative(double x) { return x < 0.0; }
+bool IsTrulyNegative(double x) {
+    return x < 0.0;
+}
 
 }  // namespace
 
@@ -228,7 +240,9 @@ QString NumToStr(Real x) {
     return (IsTrulyNegative(v) ? QStringLiteral("-") : QStringLiteral(" ")) + body;
 }
 
-QString NumToStr(double x) { return NumToStr(Real(x)); }
+QString NumToStr(double x) {
+    return NumToStr(Real(x));
+}
 
 QString NumToStr(int x) {
     return (x < 0 ? QStringLiteral("-") : QStringLiteral(" ")) +
@@ -241,9 +255,13 @@ QString NumToText(Real x) {
     return IsTrulyNegative(v) ? QStringLiteral("-") + body : body;
 }
 
-QString NumToText(double x) { return NumToText(Real(x)); }
+QString NumToText(double x) {
+    return NumToText(Real(x));
+}
 
-QString NumToText(int x) { return QString::number(x); }
+QString NumToText(int x) {
+    return QString::number(x);
+}
 
 QString FormatNum(Real x, const QString& pattern) {
     const double v = x.value();
@@ -343,8 +361,12 @@ Real StrictNumber(const QString& text) {
     return scan.value;
 }
 
-std::int16_t StrictInt16(const QString& text) { return ToInt16(StrictNumber(text)); }
+std::int16_t StrictInt16(const QString& text) {
+    return ToInt16(StrictNumber(text));
+}
 
-QString NumToStr(const QString& numberText) { return NumToStr(StrictNumber(numberText)); }
+QString NumToStr(const QString& numberText) {
+    return NumToStr(StrictNumber(numberText));
+}
 
 }  // namespace tavrin

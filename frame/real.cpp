@@ -29,14 +29,30 @@ Real Log(Real x) {
     return Real(std::log(x.value()));
 }
 
-Real Exp(Real x) { return Finite(std::exp(x.value())); }
-Real Sin(Real x) { return Finite(std::sin(x.value())); }
-Real Cos(Real x) { return Finite(std::cos(x.value())); }
-Real Tan(Real x) { return Finite(std::tan(x.value())); }
-Real Atn(Real x) { return Real(std::atan(x.value())); }
-Real Abs(Real x) { return Real(std::fabs(x.value())); }
-Real Int(Real x) { return Real(std::floor(x.value())); }
-Real Fix(Real x) { return Real(std::trunc(x.value())); }
+Real Exp(Real x) {
+    return Finite(std::exp(x.value()));
+}
+Real Sin(Real x) {
+    return Finite(std::sin(x.value()));
+}
+Real Cos(Real x) {
+    return Finite(std::cos(x.value()));
+}
+Real Tan(Real x) {
+    return Finite(std::tan(x.value()));
+}
+Real Atn(Real x) {
+    return Real(std::atan(x.value()));
+}
+Real Abs(Real x) {
+    return Real(std::fabs(x.value()));
+}
+Real Int(Real x) {
+    return Real(std::floor(x.value()));
+}
+Real Fix(Real x) {
+    return Real(std::trunc(x.value()));
+}
 
 Real Power(Real base, Real exponent) {
     const double b = base.value();

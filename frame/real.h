@@ -12,7 +12,7 @@ namespace tavrin {
 // very step that fails and nothing after it runs. The operations are evaluated
 // exactly as written: no regrouping, no fused multiply-add.
 class Real {
-public:
+  public:
     constexpr Real() = default;
     constexpr Real(double v) : v_(v) {}  // NOLINT: literals and doubles read as Real
     constexpr double value() const { return v_; }
@@ -36,7 +36,7 @@ public:
     friend bool operator==(Real a, Real b) { return a.v_ == b.v_; }
     friend std::partial_ordering operator<=>(Real a, Real b) { return a.v_ <=> b.v_; }
 
-private:
+  private:
     static Real Checked(double r) {
         if (!std::isfinite(r)) {
             Raise(ErrorNumber::Overflow);

@@ -24,6 +24,8 @@ QString RunTimeError::fatalText() const {
     return QStringLiteral("Run-time error '%1':\r\n\r\n%2").arg(code()).arg(text());
 }
 
-void Raise(ErrorNumber number) { throw RunTimeError(number); }
+void Raise(ErrorNumber number) {
+    throw RunTimeError(number);
+}
 
 }  // namespace tavrin

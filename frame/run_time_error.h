@@ -17,7 +17,7 @@ enum class ErrorNumber {
 };
 
 class RunTimeError : public std::exception {
-public:
+  public:
     explicit RunTimeError(ErrorNumber number) : number_(number) {}
     ErrorNumber number() const { return number_; }
     int code() const { return static_cast<int>(number_); }
@@ -26,7 +26,7 @@ public:
     QString fatalText() const;
     const char* what() const noexcept override { return "run-time error"; }
 
-private:
+  private:
     ErrorNumber number_;
 };
 

@@ -6,7 +6,9 @@
 namespace tavrin {
 
 namespace {
-QString Path(const QString& section, const QString& key) { return section + u'/' + key; }
+QString Path(const QString& section, const QString& key) {
+    return section + u'/' + key;
+}
 }  // namespace
 
 QString MemorySettings::get(const QString& section, const QString& key, const QString& fallback) {

@@ -11,7 +11,7 @@ namespace tavrin {
 // The per-user store: text values by section and key. A read names the
 // default for a key that is absent; nothing is ever seeded.
 class SettingsStore {
-public:
+  public:
     virtual ~SettingsStore() = default;
     virtual QString get(const QString& section, const QString& key, const QString& fallback) = 0;
     virtual void save(const QString& section, const QString& key, const QString& value) = 0;
@@ -19,17 +19,17 @@ public:
 
 // Lives for one run only.
 class MemorySettings : public SettingsStore {
-public:
+  public:
     QString get(const QString& section, const QString& key, const QString& fallback) override;
     void save(const QString& section, const QString& key, const QString& value) override;
 
-private:
+  private:
     QHash<QString, QString> values_;
 };
 
 // An INI file with a group per section, written at once on every save.
 class IniSettings : public SettingsStore {
-public:
+  public:
     explicit IniSettings(const QString& path);
     // The user's own file under the desktop's configuration folder.
     static QString DefaultPath();
@@ -37,7 +37,7 @@ public:
     QString get(const QString& section, const QString& key, const QString& fallback) override;
     void save(const QString& section, const QString& key, const QString& value) override;
 
-private:
+  private:
     std::unique_ptr<QSettings> settings_;
 };
 

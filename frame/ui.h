@@ -9,7 +9,7 @@ class Form;
 // Everything the logic asks of a display. The Qt windows, the script driver and
 // the tests each stand behind it.
 class Ui {
-public:
+  public:
     virtual ~Ui() = default;
     // Creates the window's view if it has none, shows it without blocking and
     // brings it forward.

@@ -32,20 +32,19 @@ TEST_P(SfmToRpmAnswers, WritesTheAnswerLine) {
 
 INSTANTIATE_TEST_SUITE_P(
     Table, SfmToRpmAnswers,
-    ::testing::Values(
-        SfmCase{false, "300", "0.5", "Revolutions Per Minute =  2291.8"},
-        SfmCase{false, "300", ".5", "Revolutions Per Minute =  2291.8"},
-        SfmCase{true, "2000", "0.5", "Surface Feet Per Minute =  261.8"},
-        SfmCase{false, "-300", "0.5", "Revolutions Per Minute = -2291.8"},
-        SfmCase{false, "300", "-.5", "Revolutions Per Minute = -2291.8"},
-        // 3.1416, not pi: with pi the answer would be 2291.8 too, but here it is not
-        SfmCase{false, "100", "1", "Revolutions Per Minute =  382"},
-        SfmCase{true, "1000", "1", "Surface Feet Per Minute =  261.8"},
-        SfmCase{true, "12", "1", "Surface Feet Per Minute =  3.1"},
-        SfmCase{false, "1 200", "2in", "Revolutions Per Minute =  2291.8"},
-        SfmCase{false, "&H12C", "0.5", "Revolutions Per Minute =  2291.8"},
-        SfmCase{true, "1E6", "1E6", "Surface Feet Per Minute =  261800000000"},
-        SfmCase{false, "1", "1E20", "Revolutions Per Minute =  0"}));
+    ::testing::Values(SfmCase{false, "300", "0.5", "Revolutions Per Minute =  2291.8"},
+                      SfmCase{false, "300", ".5", "Revolutions Per Minute =  2291.8"},
+                      SfmCase{true, "2000", "0.5", "Surface Feet Per Minute =  261.8"},
+                      SfmCase{false, "-300", "0.5", "Revolutions Per Minute = -2291.8"},
+                      SfmCase{false, "300", "-.5", "Revolutions Per Minute = -2291.8"},
+                      // 3.1416, not pi: with pi the answer would be 2291.8 too, but here it is not
+                      SfmCase{false, "100", "1", "Revolutions Per Minute =  382"},
+                      SfmCase{true, "1000", "1", "Surface Feet Per Minute =  261.8"},
+                      SfmCase{true, "12", "1", "Surface Feet Per Minute =  3.1"},
+                      SfmCase{false, "1 200", "2in", "Revolutions Per Minute =  2291.8"},
+                      SfmCase{false, "&H12C", "0.5", "Revolutions Per Minute =  2291.8"},
+                      SfmCase{true, "1E6", "1E6", "Surface Feet Per Minute =  261800000000"},
+                      SfmCase{false, "1", "1E20", "Revolutions Per Minute =  0"}));
 
 TEST(SfmToRpm, UsesOnePlaceWhateverDecPlaceSays) {
     Harness h;

@@ -27,9 +27,9 @@ TEST(Home, FirstRunUsesTheDefaults) {
     EXPECT_EQ(h.app.decPlace, 4);
     EXPECT_EQ(home->left(), 3420);
     EXPECT_EQ(home->top(), 5000);
-    EXPECT_EQ(home->control("Combo1").items,
-              QStringList({"Circle Segments", "Tapers", "Trigonometry (Right and Oblique)",
-                           "Polygons"}));
+    EXPECT_EQ(
+        home->control("Combo1").items,
+        QStringList({"Circle Segments", "Tapers", "Trigonometry (Right and Oblique)", "Polygons"}));
     EXPECT_EQ(home->text("Combo1"), "Quick Launcher");
     EXPECT_EQ(home->control("lstSelection").items.size(), 34);
     EXPECT_EQ(home->control("lstSelection").items[20], "SFM <--> RPM");

@@ -36,17 +36,17 @@ INSTANTIATE_TEST_SUITE_P(
                       ValCase{"123456789012345678901234567890", 1.2345678901234568e29},
                       ValCase{"0.1000000000000000055511151231257827", 0.1}));
 
-INSTANTIATE_TEST_SUITE_P(
-    HexAndOctal, ValOfTest,
-    ::testing::Values(ValCase{"&H10", 16}, ValCase{"&h1f", 31}, ValCase{"&HFFFF", -1},
-                      ValCase{"&H8000", -32768}, ValCase{"&H7FFF", 32767},
-                      ValCase{"&HFFFFF", 1048575}, ValCase{"&H0000FFFF", 65535},
-                      ValCase{"&HFFFFFFFF", -1}, ValCase{"&H7FFFFFFF", 2147483647},
-                      ValCase{"&H1G", 1}, ValCase{"&H", 0}, ValCase{"&Hz", 0},
-                      ValCase{"&O17", 15}, ValCase{"&o17", 15}, ValCase{"&17", 15},
-                      ValCase{"&O177777", -1}, ValCase{"&O200000", 65536},
-                      ValCase{"&O1777777", 524287}, ValCase{"&8", 0}, ValCase{"&", 0},
-                      ValCase{"& H10", 16}));
+INSTANTIATE_TEST_SUITE_P(HexAndOctal, ValOfTest,
+                         ::testing::Values(ValCase{"&H10", 16}, ValCase{"&h1f", 31},
+                                           ValCase{"&HFFFF", -1}, ValCase{"&H8000", -32768},
+                                           ValCase{"&H7FFF", 32767}, ValCase{"&HFFFFF", 1048575},
+                                           ValCase{"&H0000FFFF", 65535}, ValCase{"&HFFFFFFFF", -1},
+                                           ValCase{"&H7FFFFFFF", 2147483647}, ValCase{"&H1G", 1},
+                                           ValCase{"&H", 0}, ValCase{"&Hz", 0}, ValCase{"&O17", 15},
+                                           ValCase{"&o17", 15}, ValCase{"&17", 15},
+                                           ValCase{"&O177777", -1}, ValCase{"&O200000", 65536},
+                                           ValCase{"&O1777777", 524287}, ValCase{"&8", 0},
+                                           ValCase{"&", 0}, ValCase{"& H10", 16}));
 
 TEST(ValOf, LongTextOfDigitsIsCorrectlyRounded) {
     const QString text = "0.1" + QString(2000, u'0') + "1";
@@ -143,9 +143,9 @@ INSTANTIATE_TEST_SUITE_P(
         TextCase{-2.5e-200, "-2.5E-200", "-2.5E-200"},
         TextCase{1234567890123456, " 1.23456789012346E+15", "1.23456789012346E+15"},
         TextCase{123456789012345.6, " 123456789012346", "123456789012346"},
-        TextCase{999999999999999.5, " 1E+15", "1E+15"},
-        TextCase{0.1 + 0.2, " .3", "0.3"}, TextCase{2291.8, " 2291.8", "2291.8"},
-        TextCase{-2291.8, "-2291.8", "-2291.8"}, TextCase{-0.04999, "-.04999", "-0.04999"},
+        TextCase{999999999999999.5, " 1E+15", "1E+15"}, TextCase{0.1 + 0.2, " .3", "0.3"},
+        TextCase{2291.8, " 2291.8", "2291.8"}, TextCase{-2291.8, "-2291.8", "-2291.8"},
+        TextCase{-0.04999, "-.04999", "-0.04999"},
         // An exact half at the sixteenth digit goes to the even fifteenth.
         TextCase{1234567890123445, " 1.23456789012344E+15", "1.23456789012344E+15"},
         TextCase{1234567890123455, " 1.23456789012346E+15", "1.23456789012346E+15"}));
@@ -185,22 +185,16 @@ TEST_P(FormatNumTest, WritesByThePattern) {
 
 INSTANTIATE_TEST_SUITE_P(
     PatternsInUse, FormatNumTest,
-    ::testing::Values(FormatCase{3.14159265, "####0.0#####", "3.141593"},
-                      FormatCase{2, "####0.0#####", "2.0"},
-                      FormatCase{3.14159265, "####0.0######", "3.1415927"},
-                      FormatCase{2, "####0.0######", "2.0"},
-                      FormatCase{3.14159265, "##0.000000", "3.141593"},
-                      FormatCase{2, "##0.000000", "2.000000"},
-                      FormatCase{3.14159265, "####0.000000", "3.141593"},
-                      FormatCase{2, "####0.000000", "2.000000"},
-                      FormatCase{3.14159265, "########.00", "3.14"},
-                      FormatCase{2, "########.00", "2.00"},
-                      FormatCase{3.14159265, "#########0.0000", "3.1416"},
-                      FormatCase{2, "#########0.0000", "2.0000"},
-                      FormatCase{3.14159265, "####0.0####", "3.14159"},
-                      FormatCase{2, "####0.0####", "2.0"},
-                      FormatCase{3.14159265, "####0.0###", "3.1416"},
-                      FormatCase{2, "####0.0###", "2.0"}));
+    ::testing::Values(
+        FormatCase{3.14159265, "####0.0#####", "3.141593"}, FormatCase{2, "####0.0#####", "2.0"},
+        FormatCase{3.14159265, "####0.0######", "3.1415927"}, FormatCase{2, "####0.0######", "2.0"},
+        FormatCase{3.14159265, "##0.000000", "3.141593"}, FormatCase{2, "##0.000000", "2.000000"},
+        FormatCase{3.14159265, "####0.000000", "3.141593"},
+        FormatCase{2, "####0.000000", "2.000000"}, FormatCase{3.14159265, "########.00", "3.14"},
+        FormatCase{2, "########.00", "2.00"}, FormatCase{3.14159265, "#########0.0000", "3.1416"},
+        FormatCase{2, "#########0.0000", "2.0000"},
+        FormatCase{3.14159265, "####0.0####", "3.14159"}, FormatCase{2, "####0.0####", "2.0"},
+        FormatCase{3.14159265, "####0.0###", "3.1416"}, FormatCase{2, "####0.0###", "2.0"}));
 
 INSTANTIATE_TEST_SUITE_P(
     EdgeCases, FormatNumTest,

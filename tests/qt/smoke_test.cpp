@@ -16,7 +16,7 @@ namespace {
 
 // The Qt display with its boxes intercepted, so that nothing blocks.
 class InterceptingUi : public QtUi {
-public:
+  public:
     QStringList messages;
     QStringList fatals;
     void message(const QString&, const QString& text) override { messages << text; }

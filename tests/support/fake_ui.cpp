@@ -4,8 +4,12 @@
 
 namespace tavrin::testing {
 
-void FakeUi::showWindow(Form& form) { shownWindows << form.name(); }
-void FakeUi::showModal(Form& form) { shownWindows << form.name(); }
+void FakeUi::showWindow(Form& form) {
+    shownWindows << form.name();
+}
+void FakeUi::showModal(Form& form) {
+    shownWindows << form.name();
+}
 
 void FakeUi::message(const QString& title, const QString& text) {
     messages.push_back({title, text});
@@ -21,7 +25,9 @@ bool FakeUi::question(const QString& title, const QString& text) {
     return yes;
 }
 
-void FakeUi::fatal(const QString& title, const QString& text) { fatals.push_back({title, text}); }
+void FakeUi::fatal(const QString& title, const QString& text) {
+    fatals.push_back({title, text});
+}
 
 bool FakeUi::startProgram(const QString& program) {
     startAttempts << program;
@@ -50,6 +56,8 @@ void Harness::set(Form& form, const QString& control, const QString& text) {
     app.userType(form, control, text);
 }
 
-void Harness::click(Form& form, const QString& control) { app.userClick(form, control); }
+void Harness::click(Form& form, const QString& control) {
+    app.userClick(form, control);
+}
 
 }  // namespace tavrin::testing

@@ -20,7 +20,7 @@ struct Shown {
 // Records what the logic shows; questions are answered from a queue (No when
 // it is empty); the clock moves half a second a reading.
 class FakeUi : public Ui {
-public:
+  public:
     std::vector<Shown> messages;
     std::vector<Shown> questions;
     std::vector<Shown> fatals;

@@ -221,8 +221,8 @@ Driver::Status Driver::run(const QString& rawLine) {
         }
         const Control& c = form->control(controlName);
         if (verb == "set" || verb == "type") {
-            const bool fits = verb == "set" ? c.kind == ControlKind::TextBox
-                                            : c.kind == ControlKind::Combo;
+            const bool fits =
+                verb == "set" ? c.kind == ControlKind::TextBox : c.kind == ControlKind::Combo;
             if (!fits) {
                 return fail(QStringLiteral("%1 does not take %2").arg(target, verb));
             }

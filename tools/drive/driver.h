@@ -12,7 +12,7 @@ namespace tavrin {
 // A display that has none: it writes each message, question and fatal box as
 // a JSON line, answers questions from a queue, and starts no program.
 class RecordingUi : public Ui {
-public:
+  public:
     explicit RecordingUi(std::ostream& out) : out_(out) {}
     void queueAnswer(bool yes) { answers_.push_back(yes); }
 
@@ -29,7 +29,7 @@ public:
 
     bool quitting() const { return quit_; }
 
-private:
+  private:
     std::ostream& out_;
     std::deque<bool> answers_;  // an empty queue answers No
     float clock_ = 0;
@@ -38,7 +38,7 @@ private:
 
 // Runs the script language of tavrin-drive over an App, one line at a time.
 class Driver {
-public:
+  public:
     enum class Status { Going, Finished, Failed, Fatal };
 
     Driver(App& app, RecordingUi& ui, std::ostream& out) : app_(app), ui_(ui), out_(out) {}
@@ -46,7 +46,7 @@ public:
     // The status the driver exits with.
     static int ExitCode(Status status);
 
-private:
+  private:
     Status fail(const QString& why);
     Status afterStep();
     Form* openForm(const QString& name, QString& why);

@@ -9,14 +9,14 @@ namespace tavrin {
 
 // A JSON object whose keys are written in the order they were added.
 class JsonLine {
-public:
+  public:
     JsonLine& add(const QString& key, const QJsonValue& value) {
         fields_.emplace_back(key, value);
         return *this;
     }
     QByteArray toUtf8() const;
 
-private:
+  private:
     std::vector<std::pair<QString, QJsonValue>> fields_;
 };
 
