@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
                       DdCase{"007.25", "007°  15'  0\""},    // the degrees as typed
                       DdCase{" 5.5", "5°  30'  0\""}, DdCase{"1.35", "1°  21'  0\""},
                       DdCase{"45.508333", "45°  30'  30\""},
-                      DdCase{"0.0000001", "0°  6E-06'  0\""}));
+                      DdCase{"0.0000001", "0°  0'  0\""}));
 
 TEST(DegreeHelpers, UseTheShortPiInTheirOrder) {
     EXPECT_EQ(Pi().value(), 3.14159265358979);

@@ -1,0 +1,17 @@
+#pragma once
+
+// Readable failure messages: texts print as text, not as arrays of QChar.
+
+#include <QString>
+#include <QStringList>
+#include <ostream>
+
+inline void PrintTo(const QString& text, std::ostream* os) { *os << '"' << text.toStdString() << '"'; }
+
+inline void PrintTo(const QStringList& texts, std::ostream* os) {
+    *os << '{';
+    for (int i = 0; i < texts.size(); ++i) {
+        *os << (i > 0 ? ", " : "") << '"' << texts[i].toStdString() << '"';
+    }
+    *os << '}';
+}
