@@ -1,28 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <QByteArray>
-#include <QProcess>
+#include <QFile>
 #include <QTemporaryDir>
+
+#include "tests/support/drive_session.h"
 
 namespace {
 
-struct Session {
-    int exitCode = -1;
-    QStringList lines;
-};
-
-Session Drive(const QByteArray& script, const QStringList& args = {}) {
-    QProcess process;
-    process.start(QStringLiteral(TAVRIN_DRIVE_PATH), args);
-    process.write(script);
-    process.closeWriteChannel();
-    process.waitForFinished(30000);
-    Session s;
-    s.exitCode = process.exitCode();
-    const QString out = QString::fromUtf8(process.readAllStandardOutput());
-    s.lines = out.split(u'\n', Qt::SkipEmptyParts);
-    return s;
-}
+using tavrin::testing::Drive;
+using Session = tavrin::testing::DriveSession;
 
 TEST(Drive, AnswersThroughTheSfmWindow) {
     const Session s = Drive(

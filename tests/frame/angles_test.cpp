@@ -56,8 +56,7 @@ INSTANTIATE_TEST_SUITE_P(
                       DdCase{"10.99999", "10°  59'  60\""},  // no carry of 60 seconds
                       DdCase{"007.25", "007°  15'  0\""},    // the degrees as typed
                       DdCase{" 5.5", "5°  30'  0\""}, DdCase{"1.35", "1°  21'  0\""},
-                      DdCase{"45.508333", "45°  30'  30\""},
-                      DdCase{"0.0000001", "0°  0'  0\""}));
+                      DdCase{"45.508333", "45°  30'  30\""}, DdCase{"0.0000001", "0°  0'  0\""}));
 
 TEST(DegreeHelpers, UseTheShortPiInTheirOrder) {
     EXPECT_EQ(Pi().value(), 3.14159265358979);

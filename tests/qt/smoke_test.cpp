@@ -1,56 +1,19 @@
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 
-#include "app/form_view.h"
-#include "app/qt_ui.h"
-#include "frame/app.h"
+#include "tests/qt/qt_harness.h"
 
 namespace tavrin {
 namespace {
 
-// The Qt display with its boxes intercepted, so that nothing blocks.
-class InterceptingUi : public QtUi {
-  public:
-    QStringList messages;
-    QStringList fatals;
-    void message(const QString&, const QString& text) override { messages << text; }
-    bool question(const QString&, const QString&) override { return false; }
-    void fatal(const QString&, const QString& text) override { fatals << text; }
-};
-
-struct QtHarness {
-    InterceptingUi ui;
-    MemorySettings settings;
-    App app{ui, settings};
-    QtHarness() {
-        ui.setApp(&app);
-        app.splashEnabled = false;
-        app.start();
-    }
-    FormView* view(const QString& name) {
-        Form* f = app.find(name);
-        return f == nullptr ? nullptr : ui.viewOf(*f);
-    }
-};
-
-void SavePicture(QWidget* w, const QString& name) {
-    QDir().mkpath(TAVRIN_SCREENSHOT_DIR);
-    const QString path = QStringLiteral(TAVRIN_SCREENSHOT_DIR "/%1.png").arg(name);
-    ASSERT_TRUE(w->grab().save(path)) << path.toStdString();
-}
-
-template <typename W>
-W* Find(FormView* view, const QString& name) {
-    auto* w = qobject_cast<W*>(view->widget(name));
-    EXPECT_NE(w, nullptr) << name.toStdString();
-    return w;
-}
+using testing::Find;
+using testing::QtHarness;
+using testing::SavePicture;
 
 TEST(QtSmoke, HomeOpensSfmAndTheWindowAnswers) {
     QtHarness h;
