@@ -240,16 +240,27 @@ QWidget* FormView::createList(const Control& c, QWidget* parent) {
         if (c.widthChars > 0) {
             list->setFixedWidth(CharsWide(list, c.widthChars));
         }
-        // A keyboard move or a click on a new row is one Click; a click on
-        // the row already chosen is one too.
+        // Only the user's own moves and clicks are Clicks: Qt also makes the
+        // first row current when an empty list takes the focus.
+        list->installEventFilter(this);
+        list->viewport()->installEventFilter(this);
         connect(list, &QListWidget::currentRowChanged, this, [this, name = c.name](int row) {
-            if (syncing_ || form_ == nullptr || row < 0) {
+            if (syncing_ || form_ == nullptr) {
+                return;
+            }
+            if (!listInput_ || row < 0) {
+                QTimer::singleShot(0, this, [this, name] {
+                    if (form_ != nullptr) {
+                        sync(form_->control(name));
+                    }
+                });
                 return;
             }
             listJustChanged_ = true;
             QTimer::singleShot(0, this, [this] { listJustChanged_ = false; });
             app_.userSelect(*form_, name, row);
         });
+        // A click on the row already chosen is a Click too.
         connect(list, &QListWidget::itemClicked, this, [this, list, name = c.name] {
             if (listJustChanged_ || form_ == nullptr) {
                 return;
@@ -519,6 +530,15 @@ void FormView::closeEvent(QCloseEvent* event) {
     // logic unloads it.
     event->ignore();
     app_.userClose(*form_);
+}
+
+bool FormView::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type t = event->type();
+    if (t == QEvent::MouseButtonPress || t == QEvent::KeyPress) {
+        listInput_ = true;
+        QTimer::singleShot(0, this, [this] { listInput_ = false; });
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void FormView::moveEvent(QMoveEvent* event) {

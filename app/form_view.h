@@ -32,6 +32,7 @@ class FormView : public QWidget, public FormObserver {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     QWidget* createWidget(const Control& c, QWidget* parent);
@@ -51,6 +52,7 @@ class FormView : public QWidget, public FormObserver {
     QMenuBar* menuBar_ = nullptr;
     bool syncing_ = false;
     bool listJustChanged_ = false;
+    bool listInput_ = false;  // a key or mouse press on a list is being handled
 };
 
 }  // namespace tavrin

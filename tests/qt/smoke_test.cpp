@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -57,6 +58,26 @@ TEST(QtSmoke, HomeOpensSfmAndTheWindowAnswers) {
 
     sfm->close();
     EXPECT_EQ(h.app.find("frmSfmToRpm"), nullptr);
+}
+
+TEST(QtSmoke, OnlyTheUsersOwnMovesInTheListOpenWindows) {
+    QtHarness h;
+    FormView* home = h.view("frmHome");
+    auto* list = Find<QListWidget>(home, "lstSelection");
+    home->activateWindow();
+    list->setFocus();
+    QApplication::processEvents();
+    QApplication::processEvents();
+    EXPECT_EQ(h.app.loadedForms().size(), 1u);
+    EXPECT_EQ(h.app.find("frmHome")->listIndex("lstSelection"), -1);
+
+    QListWidgetItem* polygons = list->item(19);
+    list->scrollToItem(polygons);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                      list->visualItemRect(polygons).center());
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(h.app.find("frmHome")->listIndex("lstSelection"), 20);
+    EXPECT_NE(h.view("frmSfmToRpm"), nullptr);
 }
 
 TEST(QtSmoke, TheHomeWindowStandsAtItsStoredPosition) {
