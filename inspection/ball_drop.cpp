@@ -1,0 +1,335 @@
+// Ball Drop: a gauge ball dropped into a countersink or tapered hole, read
+// from the face, turned into sharp corner, drop, hole depth, chamfer and
+// angle length.
+
+#include "frame/angles.h"
+#include "frame/app.h"
+#include "frame/form.h"
+#include "frame/form_registry.h"
+#include "frame/numeric_text.h"
+#include "inspection/ball_limits.h"
+
+namespace tavrin {
+
+namespace {
+
+enum Mode { SharpCorner, BallDrop, HoleDepth, Chamfer, AngleLength };
+
+const QString kLineEnd = QStringLiteral("\r\n");
+
+QString Num(const Form& f, Real value) {
+    return NumToStr(RoundTo(value, f.app().decPlace));
+}
+
+// The ball of radius r resting in the cone of angle a whose face diameter is
+// x: heights are from the face, positive above it.
+struct Seat {
+    Real drop;  // top of the ball above the face
+    Real best;  // the ball that stands flush
+    Real ytan;  // height of the circle of tangency
+    Real xtan;  // diameter of that circle
+    Real tip;   // height where the ball crosses the thru hole
+};
+
+Seat SolveSeat(Real a, Real r, Real x, Real t) {
+    Seat s;
+    const Real h = x / TanDeg(a) / 2;
+    s.drop = r / SinDeg(a) - h + r;
+    const Real g = (x / 2) / SinDeg(a);
+    s.best = (h * 2 * x) / (g * 2 + x);
+    s.ytan = -((r - s.drop) + SinDeg(a) * r);
+    s.xtan = 2 * r * CosDeg(a);
+    s.tip = (r - Sqr(4 * r * r - t * t) / 2) + (-2 * r + s.drop);
+    return s;
+}
+
+Real SharpCornerFromDrop(Real a, Real r, Real drop) {
+    return (CosDeg(a) * r + TanDeg(a) * (SinDeg(a) * r + (r - drop))) * 2;
+}
+
+QString TipText(const Form& f, Real t, Real tip) {
+    return t > 0 ? Num(f, tip) : QStringLiteral("No thru hole entered.");
+}
+
+QString SeatLines(const Form& f, const Seat& s, Real t) {
+    return "Best Ball= " + Num(f, s.best) + kLineEnd + "X Tan= " + Num(f, s.xtan) + kLineEnd +
+           "Y Tan= " + Num(f, s.ytan) + kLineEnd + "TIP= " + TipText(f, t, s.tip);
+}
+
+// Modes 1 to 3: x is the drop in mode 1, the diameter at the face otherwise.
+QString BallSeatSolve(Form& f, Real a, Real b, Real x, Real t, Real d, int mode) {
+    const Real r = b / 2;
+    if (mode == 1) {
+        x = SharpCornerFromDrop(a, r, x);
+    }
+    Seat s = SolveSeat(a, r, x, t);
+    Real shift = 0;
+    if (mode == 3) {
+        if (s.drop < d) {
+            ProgramMessage(f, "Error, invalid drop value.");
+            return QString();
+        }
+        // The hole's diameter lies below the face the ball was read from.
+        shift = s.drop - d;
+        s.ytan = s.ytan - shift;
+        s.tip = s.tip - shift;
+    }
+    QString first;
+    switch (mode) {
+        case 1:
+            first = "SC Dia.= " + Num(f, x);
+            break;
+        case 2:
+            first = "Ball Drop= " + Num(f, s.drop);
+            break;
+        default:
+            first = "Hole Depth= " + Num(f, -shift);
+            break;
+    }
+    return first + kLineEnd + SeatLines(f, s, t);
+}
+
+QString AngleLengthSolve(Form& f, Real a, Real b, Real x, Real t, Real l) {
+    const Real r = b / 2;
+    const Real sc = SharpCornerFromDrop(a, r, x);
+    const Real w = (sc - t) / 2;
+    const Real len = w / TanDeg(a);
+    const Real maxsc = 2 * (TanDeg(a) * l) + t;
+    if (maxsc < sc) {
+        // Four places here, whatever DecPlace says.
+        ProgramMessage(f, "Error, Invalid input or oversize." + kLineEnd +
+                              "Length= " + NumToStr(RoundTo(len, 4)) + kLineEnd +
+                              "Max S/C Dia.= " + NumToStr(RoundTo(maxsc, 4)) + kLineEnd +
+                              "S/C Dia. is= " + NumToStr(RoundTo(sc, 4)));
+        return QString();
+    }
+    const Seat s = SolveSeat(a, r, sc, t);
+    if (len > l) {
+        ProgramMessage(f, "Angle length is oversize.");
+        return "ERROR!" + kLineEnd + "Oversize or incorrect value." + kLineEnd +
+               "Angle Length= " + Num(f, len);
+    }
+    return "Angle Length= " + Num(f, len) + kLineEnd + "S/C Dia.= " + Num(f, sc) + kLineEnd +
+           SeatLines(f, s, t);
+}
+
+// The ball rests on the edge of a chamfer of at most m, dropped d from its top.
+QString ChamferSolve(Form& f, Real a, Real d, Real m, Real b) {
+    const Real minball = m / CosDeg(a);
+    if (minball + 0.001 > b) {
+        ProgramMessage(f, "Error, Invalid ball diameter.");
+        return QString();
+    }
+    if (PercentOf(minball, 10) + minball > b) {
+        ProgramMessage(f, "Ball diameter is less than 10% over absolute minimum.");
+    }
+    const Real e = b - d;
+    const Real c = Sqr(b * b - 4 * (b / 2 - e) * (b / 2 - e));
+    const Real limit = b / 2 - Sqr((b / 2) * (b / 2) - (m / 2) * (m / 2));
+    if (limit < e) {
+        ProgramMessage(f, "Drop value too great, chamfer is oversize.");
+        return "ERROR!" + kLineEnd + "Oversize or incorrect value, check data or part." + kLineEnd +
+               "S\\C Chamfer Dia.= " + Num(f, c);
+    }
+    return "S\\C Chamfer Dia.= " + Num(f, c);
+}
+
+QString ChamferBallLimits(const Form& f, Real a, Real m) {
+    const Real minimum = m / CosDeg(a);
+    // A bare line feed between the two lines, as this message has always had.
+    return "Absolute Min.Ball Dia.= " + Num(f, minimum + 0.001) + "\n" +
+           "Min. recommended ball dia.= " + Num(f, PercentOf(minimum, 10) + minimum);
+}
+
+Real FieldValue(const Form& f, const char* name) {
+    return ValOf(f.text(name));
+}
+
+Real AngleOf(const Form& f) {
+    if (f.value("chkDMSbd")) {
+        return ValOf(DmsTextToDd(f.text("txtAngDrop")));
+    }
+    return ValOf(f.text("txtAngDrop"));
+}
+
+bool Refused(Form& f, int mode) {
+    if (mode == HoleDepth && FieldValue(f, "txtDropOrDia") <= FieldValue(f, "txtBallDrop")) {
+        ProgramMessage(f, "Error, Ball dia. cannot be equal or greater than hole dia.");
+        return true;
+    }
+    if (mode == Chamfer) {
+        if (FieldValue(f, "txtDropOrDia") >= FieldValue(f, "txtBallDrop")) {
+            ProgramMessage(f, "Error, Drop cannot be greater than ball dia. in chamfer selection");
+            return true;
+        }
+        if (FieldValue(f, "txtDropOrDia") < 0) {
+            ProgramMessage(f, "Error, Drop cannot be a negative value in chamfer selection");
+            return true;
+        }
+    }
+    if (mode != Chamfer && FieldValue(f, "txtThruHole") > FieldValue(f, "txtBallDrop")) {
+        ProgramMessage(f, "Error, Ball dia. smaller than thru hole.");
+        return true;
+    }
+    if (IsNumberText(f.text("txtDropOrDia")) == 0) {
+        ProgramMessage(f, "Error, Invalid data in field #3");
+        return true;
+    }
+    if (mode == BallDrop &&
+        (FieldValue(f, "txtBallDrop") == 0 || FieldValue(f, "txtAngDrop") == 0 ||
+         FieldValue(f, "txtDropOrDia") == 0)) {
+        ProgramMessage(f, "Error, Only the thru hole value can be zero.");
+        return true;
+    }
+    return false;
+}
+
+void Calculate(Form& f) {
+    const int mode = f.listIndex("popSelDropOrDia");
+    if (Refused(f, mode)) {
+        return;
+    }
+    const Real a = AngleOf(f);
+    f.setText("txtDropAns", "Calculating...");
+    const Real b = FieldValue(f, "txtBallDrop");
+    QString answer;
+    switch (mode) {
+        case SharpCorner:
+        case BallDrop:
+        case HoleDepth:
+            answer =
+                BallSeatSolve(f, a, b, FieldValue(f, "txtDropOrDia"), FieldValue(f, "txtThruHole"),
+                              FieldValue(f, "txtHoleDepth"), mode + 1);
+            break;
+        case Chamfer:
+            answer =
+                ChamferSolve(f, a, FieldValue(f, "txtDropOrDia"), FieldValue(f, "txtThruHole"), b);
+            break;
+        case AngleLength:
+            answer = AngleLengthSolve(f, a, b, FieldValue(f, "txtHoleDepth"),
+                                      FieldValue(f, "txtThruHole"), FieldValue(f, "txtDropOrDia"));
+            break;
+        default:
+            break;
+    }
+    f.setText("txtDropAns", answer);
+}
+
+void BallTolerance(Form& f) {
+    const Real a = AngleOf(f);
+    const Real t = FieldValue(f, "txtThruHole");
+    switch (f.listIndex("popSelDropOrDia")) {
+        case BallDrop:
+        case HoleDepth:  // the hole diameter stands for the sharp corner
+            ProgramMessage(f, BallLimits(f, a, t, FieldValue(f, "txtDropOrDia")));
+            break;
+        case Chamfer:
+            if (FieldValue(f, "txtAngDrop") <= 0 || t <= 0) {
+                ProgramMessage(f, "Error, angle and max dia must be greater than zero.");
+            } else {
+                ProgramMessage(f, ChamferBallLimits(f, a, t));
+            }
+            break;
+        case AngleLength: {
+            // Along the wall here, with the sine; Calculate goes along the axis.
+            const Real s = 2 * (FieldValue(f, "txtDropOrDia") * SinDeg(a)) + t;
+            ProgramMessage(f, BallLimits(f, a, t, s));
+            break;
+        }
+        default:
+            break;
+    }
+}
+
+struct ModeLook {
+    const char* fieldCaption;
+    const char* thruCaption;
+    bool measuredDrop;
+    bool tolerance;
+};
+
+void ModeChange(Form& f) {
+    static const ModeLook looks[] = {
+        {"Ball Drop", "Thru Hole Dia.", false, false},
+        {"Sharp Corner Dia.", "Thru Hole Dia.", false, true},
+        {"Hole Diameter", "Thru Hole Dia.", true, true},
+        {"Ball Drop", "Max S/C Dia.", false, true},
+        {"Max Angle Length", "Thru Hole Dia.", true, true},
+    };
+    const int mode = f.listIndex("popSelDropOrDia");
+    if (mode < 0 || mode > AngleLength) {
+        return;
+    }
+    const ModeLook& look = looks[mode];
+    f.setCaption("lblDiaOrDrop", look.fieldCaption);
+    f.setCaption("Label1541", look.thruCaption);
+    f.setVisible("txtHoleDepth", look.measuredDrop);
+    f.setVisible("Field4322", look.measuredDrop);
+    if (look.measuredDrop) {
+        f.setCaption("Field4322", "Ball Drop");
+    }
+    f.setVisible("cmdMinBall", look.tolerance);
+}
+
+void DmsClick(Form& f) {
+    if (f.value("chkDMSbd")) {
+        ProgramMessage(f, "Enter 22" + QString(kDegreeSign) +
+                              " 3' 22\" as 22.0322 (always use a "
+                              "leading zero for minutes or seconds "
+                              "less than 10)");
+    }
+}
+
+void ClearAll(Form& f) {
+    // The measured drop stays on purpose.
+    for (const char* name :
+         {"txtAngDrop", "txtBallDrop", "txtDropOrDia", "txtThruHole", "txtDropAns"}) {
+        f.setText(name, QString());
+    }
+}
+
+void Build(Form& f) {
+    f.setTitle("Ball Drop");
+    f.addLabel("Label5", "Find-->");
+    Control& modes = f.add(ControlKind::DropDownList, "popSelDropOrDia");
+    modes.items =
+        QStringList{"S\\C Diameter", "Ball Drop", "Hole Depth", "Chamfer Diameter", "Angle Length"};
+    f.addRow(RowKind::Fields, {"Label5", "popSelDropOrDia"});
+    f.addLabel("Label1", "Angle");
+    f.addTextBox("txtAngDrop");
+    f.addCheck(QString(), "chkDMSbd", "DMS");
+    f.addRow(RowKind::Fields, {"Label1", "txtAngDrop", "chkDMSbd"});
+    f.addField("Label2", "Ball Diameter", "txtBallDrop");
+    f.addField("lblDiaOrDrop", QString(), "txtDropOrDia");
+    f.addField("Label1541", "Thru Hole Dia.", "txtThruHole");
+    f.addField("Field4322", "Ball Drop", "txtHoleDepth");
+    f.addAnswerBox("txtDropAns", 6).widthChars = 34;
+    f.addRow(RowKind::Line, {"txtDropAns"});
+    f.addButton("cmdMinBall", "Ball Tolerance");
+    f.addRow(RowKind::Line, {"cmdMinBall"});
+    f.addButton("Command1", "Calculate");
+    f.addButton("Command2", "Clear All");
+    f.addButton("Command3", "Image");
+    f.addButton("Command4", "Help");
+    f.addRow(RowKind::Buttons, {"Command1", "Command2", "Command3", "Command4"});
+
+    f.onLoad([](Form& f) {
+        f.setCaption("lblDiaOrDrop", "Sharp Corner Dia.");
+        f.setListIndex("popSelDropOrDia", 1);
+    });
+    f.onClick("popSelDropOrDia", ModeChange);
+    f.onClick("chkDMSbd", DmsClick);
+    f.onClick("Command1", Calculate);
+    f.onClick("Command2", ClearAll);
+    f.onClick("Command3", [](Form& f) { f.app().show("frmBDImage"); });
+    f.onClick("Command4", [](Form& f) {
+        ProgramMessage(f, "Enter positive drop values for above the face and negative for below.");
+    });
+    f.onClick("cmdMinBall", BallTolerance);
+}
+
+const FormRegistration registration("frmBallDrop", Build);
+
+}  // namespace
+
+}  // namespace tavrin

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+#include "frame/real.h"
+
+namespace tavrin {
+
+class Form;
+
+// The smallest and largest ball a countersink of angle a per side takes,
+// from its thru hole t and its sharp corner s: two answer lines.
+QString BallLimits(const Form& f, Real a, Real t, Real s);
+
+}  // namespace tavrin
