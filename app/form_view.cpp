@@ -123,6 +123,13 @@ QWidget* FormView::createWidget(const Control& c, QWidget* parent) {
         case ControlKind::Label: {
             auto* label = new QLabel(parent);
             label->setTextInteractionFlags(Qt::NoTextInteraction);
+            // A label whose text changes keeps one width, so the window does not jump.
+            if (c.widthChars > 0) {
+                label->setFixedWidth(CharsWide(label, c.widthChars));
+            }
+            if (c.centred) {
+                label->setAlignment(Qt::AlignCenter);
+            }
             return label;
         }
         case ControlKind::TextBox:

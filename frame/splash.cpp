@@ -27,7 +27,10 @@ void Tick(Form& f) {
 void Build(Form& f) {
     f.setStyle(FormStyle::Splash);
     f.addImage("Image1", "splash");
-    f.addLabel("lblProductName", QStringLiteral("Tavrin™ v4.0      for Windows® "));
+    Control& product =
+        f.addLabel("lblProductName", QStringLiteral("Tavrin™ v4.0      for Windows® "));
+    product.widthChars = 56;
+    product.centred = true;
     f.add(ControlKind::Timer, "Timer1").interval = 5;
     f.addRow(RowKind::Line, {"Image1"});
     f.addRow(RowKind::Line, {"lblProductName"});
