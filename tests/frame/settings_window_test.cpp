@@ -113,21 +113,21 @@ INSTANTIATE_TEST_SUITE_P(Table, SettingsDecimalPlaces,
 
 TEST(Settings, DecimalPlacesReachAWindowThatIsAlreadyOpen) {
     Harness h;
-    Form& dms = h.open("frmDDtoDMS");
+    Form& ball = h.open("frmMinMaxBall");
+    h.set(ball, "txtAngMinMax", "45");
+    h.set(ball, "txtThruMinMax", ".25");
+    h.set(ball, "txtSCMinMax", ".625");
     Form& f = h.open("frmSettings");
-    h.set(f, "Text1", "6");
-    h.click(f, "Command1");
-    EXPECT_EQ(h.app.decPlace, 6);
-    // What the next Calculate of any window rounds with.
-    EXPECT_EQ(NumToStr(RoundTo(2.0 / 3.0, h.app.decPlace)), " .666667");
-    h.set(f, "Text1", "1");
-    h.click(f, "Command1");
-    EXPECT_EQ(NumToStr(RoundTo(2.0 / 3.0, h.app.decPlace)), " .7");
-    // The open window goes on working; its own answers keep six places.
-    h.click(dms, "optDD");
-    h.set(dms, "txtDD1", "22.0322");
-    h.click(dms, "Command1");
-    EXPECT_EQ(dms.text("txtDDans"), "DD=  22.056111");
+    const std::vector<std::pair<const char*, const char*>> steps{
+        {"6", "Min.Ball Size=  .353553\r\nMax.Ball Size=  .883883"},
+        {"1", "Min.Ball Size=  .4\r\nMax.Ball Size=  .9"},
+    };
+    for (const auto& [places, answer] : steps) {
+        h.set(f, "Text1", places);
+        h.click(f, "Command1");
+        h.click(ball, "Command1");
+        EXPECT_EQ(ball.text("txtMMans"), answer) << places;
+    }
 }
 
 TEST(Settings, ANegativeDecimalPlaceMakesEveryLaterRoundingFail) {
