@@ -1,0 +1,251 @@
+// Right Triangle Trigonometry: a right triangle from two known values.
+// Side a is the hypotenuse; Angle B faces side b and Angle C faces side c.
+
+#include "frame/angles.h"
+#include "frame/app.h"
+#include "frame/form.h"
+#include "frame/form_registry.h"
+#include "frame/numeric_text.h"
+
+namespace tavrin {
+
+namespace {
+
+const QChar kDiameterSign(0x00D8);
+
+// Field captions by the known pair, in the order of popSides.
+struct KnownPair {
+    const char* item;
+    const char* one;
+    const char* two;
+};
+
+constexpr KnownPair kPairs[] = {
+    {"side a & side b", "a", "b"},  {"side b & side c", "b", "c"},  {"side c & side a", "c", "a"},
+    {"Angle B & side a", "B", "a"}, {"Angle B & side b", "B", "b"}, {"Angle B & side c", "B", "c"},
+    {"Angle C & side a", "C", "a"}, {"Angle C & side b", "C", "b"}, {"Angle C & side c", "C", "c"},
+};
+
+// The solved triangle; every case sets all five.
+struct Triangle {
+    Real a;
+    Real b;
+    Real c;
+    Real angleB;
+    Real angleC;
+};
+
+// The entry controls that give way to the answer box.
+const QStringList kEntries{"txtSideOne", "txtSideTwo", "popSides", "Command1",
+                           "Command2",   "Command4",   "chkDMS"};
+
+Real R6(Real x) {
+    return RoundTo(x, 6);
+}
+
+void Solve(Form& f, int index, const QString& angleText, Triangle& t) {
+    const int rd = f.app().decPlace;
+    const QString one = f.text("txtSideOne");
+    const QString two = f.text("txtSideTwo");
+    auto RD = [rd](Real x) { return RoundTo(x, rd); };
+    const Real angle = ValOf(angleText);
+    switch (index) {
+        case 0:
+            t.a = ValOf(one);
+            t.b = ValOf(two);
+            t.angleB = R6(ArcSinDeg(t.b / t.a));
+            t.angleC = R6(90 - t.angleB);
+            t.c = RD(Sqr(SquareOfText(one) - SquareOfText(two)));
+            break;
+        case 1:
+            t.b = ValOf(one);
+            t.c = ValOf(two);
+            t.angleC = R6(Atn(t.c / t.b) * 57.2957795130823);
+            t.angleB = R6(90 - t.angleC);
+            t.a = RD(Sqr(SquareOfText(two) + SquareOfText(one)));
+            break;
+        case 2:
+            t.c = ValOf(one);
+            t.a = ValOf(two);
+            t.angleC = R6(ArcSinDeg(t.c / t.a));
+            t.angleB = R6(90 - t.angleC);
+            t.b = RD(Sqr(SquareOfText(two) - SquareOfText(one)));
+            break;
+        case 3:
+            t.angleB = angle;
+            t.a = ValOf(two);
+            t.angleC = R6(90 - angle);
+            t.c = RD(CosDeg(angle) * t.a);
+            t.b = RD(SinDeg(angle) * t.a);
+            break;
+        case 4:
+            t.angleB = angle;
+            t.b = ValOf(two);
+            t.a = RD(t.b / SinDeg(angle));
+            t.c = RD(t.b / TanDeg(angle));
+            t.angleC = R6(90 - angle);
+            break;
+        case 5:
+            t.angleB = angle;
+            t.c = ValOf(two);
+            t.a = RD(t.c / CosDeg(angle));
+            t.b = RD(TanDeg(angle) * t.c);
+            t.angleC = R6(90 - angle);
+            break;
+        case 6:
+            t.angleC = angle;
+            t.a = ValOf(two);
+            t.angleB = R6(90 - angle);
+            t.b = RD(CosDeg(angle) * t.a);
+            t.c = RD(SinDeg(angle) * t.a);
+            break;
+        case 7:
+            t.angleC = angle;
+            t.b = ValOf(two);
+            t.angleB = R6(90 - angle);
+            t.a = RD(t.b / CosDeg(angle));
+            t.c = RD(TanDeg(angle) * t.b);
+            break;
+        default:
+            // The rounded Angle B, not the known C: its last digits differ,
+            // and the answers have always come this way.
+            t.angleC = angle;
+            t.c = ValOf(two);
+            t.angleB = R6(90 - angle);
+            t.a = RD(t.c / CosDeg(t.angleB));
+            t.b = RD(TanDeg(t.angleB) * t.c);
+            break;
+    }
+}
+
+QString AnswerText(const Triangle& t, int decPlace) {
+    QStringList lines;
+    lines << "side a= " + NumToStr(t.a);
+    lines << "side b= " + NumToStr(t.b);
+    lines << "side c= " + NumToStr(t.c);
+    lines << "Angle B= " + DdToDmsText(NumToStr(t.angleB));
+    lines << "Angle C= " + DdToDmsText(NumToStr(t.angleC));
+    lines << "Angle B= " + NumToStr(t.angleB) + " Dec. Deg.";
+    lines << "Angle C= " + NumToStr(t.angleC) + " Dec. Deg.";
+    lines << "Perimeter= " + NumToStr((t.c + t.b) + t.a);
+    lines << "Area= " + NumToStr(RoundTo((t.c * t.b) / 2, decPlace));
+    lines << "Inscribed Circle" + QString(kDiameterSign) + "= " +
+                 NumToStr(RoundTo((t.c + t.b) - t.a, decPlace));
+    lines << "Circumscribed Circle" + QString(kDiameterSign) + "= " + NumToStr(t.a);
+    return lines.join("\r\n");
+}
+
+void Calculate(Form& f) {
+    const QString one = f.text("txtSideOne");
+    const QString two = f.text("txtSideTwo");
+    if (ValOf(two) <= 0 || ValOf(one) <= 0) {
+        ProgramMessage(f, "Error, Values must be greater than zero");
+        return;
+    }
+    // Behind the test above an empty field cannot reach here; it stays all the same.
+    if (one.isEmpty() || two.isEmpty()) {
+        ProgramMessage(f, "Please fill both data fields.");
+        return;
+    }
+    const int index = f.listIndex("popSides");
+    if (index == 0 && ValOf(one) <= ValOf(two)) {
+        ProgramMessage(f, "Error, Side a cannot be less than or equal to Side b.");
+        return;
+    }
+    if (index == 2 && ValOf(one) >= ValOf(two)) {
+        ProgramMessage(f, "Error, Side a cannot be less than or equal to Side c.");
+        return;
+    }
+    // On the entry as typed: a packed "89.6000" passes and converts to 90.
+    if (index >= 3 && ValOf(one) >= 90) {
+        ProgramMessage(f, "Error, Angle equal  or greater than 90 degrees");
+        return;
+    }
+    QString angleText;
+    if (index >= 3) {
+        angleText = f.value("chkDMS") ? DmsTextToDd(one) : one;
+    }
+    Triangle t;
+    Solve(f, index, angleText, t);
+    f.setText("field2747", "Calculating...");
+    const QString answer = AnswerText(t, f.app().decPlace);
+    for (const QString& name : kEntries) {
+        f.setVisible(name, false);
+    }
+    f.setText("field2747", answer);
+    f.setVisible("field2747", true);
+    f.setVisible("Command3", true);
+}
+
+void BackToEntry(Form& f) {
+    for (const QString& name : kEntries) {
+        f.setVisible(name, true);
+    }
+    f.setText("field2747", QString());
+    f.setVisible("field2747", false);
+    f.setVisible("Command3", false);
+}
+
+void PairChosen(Form& f) {
+    const int index = f.listIndex("popSides");
+    if (index < 0 || index >= static_cast<int>(std::size(kPairs))) {
+        return;
+    }
+    f.setCaption("lblSideOne", kPairs[index].one);
+    f.setCaption("lblSideTwo", kPairs[index].two);
+}
+
+void Build(Form& f) {
+    f.setTitle("Right Triangle Trigonometry");
+    Control& pop = f.add(ControlKind::DropDownList, "popSides");
+    for (const KnownPair& p : kPairs) {
+        pop.items << p.item;
+    }
+    pop.widthChars = 18;
+    f.addLabel("lblSideOne", "a");
+    f.addTextBox("txtSideOne");
+    f.addLabel("lblSideTwo", "b");
+    f.addTextBox("txtSideTwo");
+    f.addCheck(QString(), "chkDMS", "Entering DMS");
+    f.addButton("Command1", "Calculate");
+    f.addButton("Command2", "Clear All");
+    f.addButton("Command3", "Done").visible = false;
+    f.addButton("Command4", "Done");
+    Control& answer = f.addAnswerBox("field2747", 11, ScrollBars::Vertical);
+    // The user may edit the answer; it changes nothing.
+    answer.locked = false;
+    answer.visible = false;
+    answer.widthChars = 30;
+    // The drawing carries the same captions as these labels.
+    f.addLabel("Label9", "side a (hypotenuse)");
+    f.addLabel("Label6", "side b");
+    f.addLabel("Label7", "side c");
+    f.addLabel("Label8", "Angle B");
+    f.addLabel("Label5", "Angle C");
+    f.addImage("imgTriangle", "right_triangle");
+    f.setSide("imgTriangle");
+
+    f.addRow(RowKind::Line, {"popSides"});
+    f.addRow(RowKind::Fields, {"lblSideOne", "txtSideOne"});
+    f.addRow(RowKind::Fields, {"lblSideTwo", "txtSideTwo"});
+    f.addRow(RowKind::Line, {"chkDMS"});
+    f.addRow(RowKind::Line, {"field2747"});
+    f.addRow(RowKind::Buttons, {"Command1", "Command2", "Command4"});
+    f.addRow(RowKind::Buttons, {"Command3"});
+
+    f.onLoad([](Form& f) { f.setListIndex("popSides", 0); });
+    f.onClick("popSides", PairChosen);
+    f.onClick("Command1", Calculate);
+    f.onClick("Command2", [](Form& f) {
+        f.setText("txtSideOne", QString());
+        f.setText("txtSideTwo", QString());
+    });
+    f.onClick("Command3", BackToEntry);
+    f.onClick("Command4", [](Form& f) { f.app().unload(f); });
+}
+
+const FormRegistration registration("frmTrig", Build);
+
+}  // namespace
+
+}  // namespace tavrin
