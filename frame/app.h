@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "frame/block_labels.h"
 #include "frame/form.h"
 #include "frame/settings_store.h"
 #include "frame/ui.h"
@@ -29,6 +30,7 @@ class App {
     std::int16_t decPlace = 4;  // decimal places of answers
     bool tangencyDms = false;
     QString oldPointsText;
+    BlockLabels blockLabels;  // of the thread milling and lathe threading programs
     // The script driver and the tests skip the splash and its waits.
     bool splashEnabled = true;
     // The splash has run its three texts; later timer firings do nothing.

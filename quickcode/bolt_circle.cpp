@@ -1,0 +1,125 @@
+// Bolt Circle: the X and Y of equally spaced holes on a circle, one line a hole.
+
+#include <cstdint>
+
+#include "frame/angles.h"
+#include "frame/app.h"
+#include "frame/form.h"
+#include "frame/form_registry.h"
+#include "frame/numeric_text.h"
+
+namespace tavrin {
+
+namespace {
+
+const QString kCrLf = QStringLiteral("\r\n");
+
+QString Fmt(Real v) {
+    return FormatNum(v, "####0.0#####");
+}
+
+QString HoleList(Real d, Real h, Real xc, Real yc, Real a, bool noNumbers, std::int16_t places) {
+    // The step keeps the fraction of the count; the number of holes does not.
+    const Real step = 360 / h;
+    const std::int16_t n = ToInt16(h);
+    QString list;
+    // The count stops at n without stepping past it, so 32767 holes fit.
+    for (int i = 1; i <= n; ++i) {
+        Real x = (d / 2) * Cos(Pi() * a / 180) + xc;
+        Real y = (d / 2) * Sin(Pi() * a / 180) + yc;
+        x = RoundTo(x, places);
+        y = RoundTo(y, places);
+        // Not taken modulo 360: the angle runs on past a full turn.
+        a = step + a;
+        if (noNumbers) {
+            list += u'X' + Fmt(x) + u'Y' + Fmt(y) + kCrLf;
+        } else {
+            list += NumToStr(i) + QStringLiteral("] X") + Fmt(x) + u'Y' + Fmt(y) + kCrLf;
+        }
+    }
+    return list;
+}
+
+void Calculate(Form& f) {
+    if (IsNumberText(f.text("Text3")) == 0 || IsNumberText(f.text("Text4")) == 0) {
+        ProgramMessage(f, "Error, Invalid input in one of the coordinate fields");
+        return;
+    }
+    for (const char* field : {"Text1", "Text2", "Text3", "Text4", "Text5"}) {
+        if (f.text(field).isEmpty()) {
+            ProgramMessage(f, "Please fill all five data fields.");
+            return;
+        }
+    }
+    // Zero only: a negative diameter is taken.
+    if (ValOf(f.text("Text1")) == 0) {
+        ProgramMessage(f, "Error, Diameter must be greater than zero.");
+        return;
+    }
+    if (ValOf(f.text("Text2")) == 0) {
+        ProgramMessage(f, "Error, # of holes must be greater than zero.");
+        return;
+    }
+    // On the text as typed, packed DMS or not; there is no lower limit.
+    if (ValOf(f.text("Text5")) > 359) {
+        ProgramMessage(f, "angle greater than 359 degrees.");
+        return;
+    }
+    if (IsNumberText(f.text("Text5")) == 0) {
+        ProgramMessage(f, "Error, Invalid input in the angle data field");
+        return;
+    }
+    const Real a =
+        f.value("chkDMSbc") ? ValOf(DmsTextToDd(f.text("Text5"))) : ValOf(f.text("Text5"));
+    f.setText("Text7", "Please wait..." + kCrLf + "Calculating " + f.text("Text2") + " holes.");
+    // One chance to paint; a long list is not interrupted after this.
+    f.app().ui().processEvents();
+    f.setText("Text7",
+              HoleList(ValOf(f.text("Text1")), ValOf(f.text("Text2")), ValOf(f.text("Text3")),
+                       ValOf(f.text("Text4")), a, f.value("chkNoNumbers"), f.app().decPlace));
+}
+
+void ClearAll(Form& f) {
+    for (const char* field : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text7"}) {
+        f.setText(field, QString());
+    }
+}
+
+void Help(Form& f) {
+    ProgramMessage(f, QStringLiteral("If entering the angle in Degrees Minutes Seconds enter 22") +
+                          kDegreeSign + QStringLiteral(" 3' 22") + QChar(34) +
+                          QStringLiteral(" as 22.0322 (always use a leading zero for minutes or "
+                                         "seconds less than 10)") +
+                          QChar(10) +
+                          QStringLiteral("A neg. or pos. start angle may be entered. (To start "
+                                         "before or after 3 o'clock pos.)"));
+}
+
+void Build(Form& f) {
+    f.setTitle("Bolt Circle");
+    f.addField("Label1", "Diameter", "Text1");
+    f.addField("Label2", "# of Holes", "Text2");
+    f.addField("Label3", "X Coordinate", "Text3");
+    f.addField("Label4", "Y Coordinate", "Text4");
+    f.addField("Label5", "Start Angle", "Text5");
+    f.addCheck(QString(), "chkDMSbc", "Entering DMS");
+    f.addCheck(QString(), "chkNoNumbers", "Do not add number count");
+    f.addAnswerBox("Text7", 12, ScrollBars::Both).widthChars = 32;
+    f.addButton("Command1", "Calculate");
+    f.addButton("Command2", "Clear All");
+    f.addButton("Command3", "Help");
+
+    f.addRow(RowKind::Line, {"chkDMSbc", "chkNoNumbers"});
+    f.addRow(RowKind::Line, {"Text7"});
+    f.addRow(RowKind::Buttons, {"Command1", "Command2", "Command3"});
+
+    f.onClick("Command1", Calculate);
+    f.onClick("Command2", ClearAll);
+    f.onClick("Command3", Help);
+}
+
+const FormRegistration registration("frmBoltCircle", Build);
+
+}  // namespace
+
+}  // namespace tavrin
