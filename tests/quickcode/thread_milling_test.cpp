@@ -438,6 +438,19 @@ TEST(ThreadMilling, TheLongestSinglePointProgram) {
     EXPECT_EQ(h.app.blockLabels[300], "N1505 ");
 }
 
+TEST(ThreadMilling, ATypedThreadTypeSelectsNoProgram) {
+    Harness h;
+    Form& f = h.open("frmThdMill");
+    Fill(h, f, ThreadCase{"0", "0", ".1", ".5", "1", ".5", ".125", "5", 0, 0, true, {}});
+    h.set(f, "popTM_Thread", "Ext.");
+    EXPECT_EQ(f.listIndex("popTM_Thread"), -1);
+    h.click(f, "Command1");
+    EXPECT_TRUE(h.ui.messages.empty());
+    EXPECT_EQ(f.text("fld_TM_Answer"), "Calculating...");
+    // The labels were written all the same.
+    EXPECT_EQ(h.app.blockLabels[12], "N65 ");
+}
+
 TEST(ThreadMilling, LoadsWithTheFirstItemsAndClearAllLeavesTheChoices) {
     Harness h;
     Form& f = h.open("frmThdMill");
