@@ -451,7 +451,10 @@ void Build(Form& f) {
     f.addImage("imgTriangle", "oblique_triangle");
     f.setSide("imgTriangle");
 
-    f.addRow(RowKind::Fields, {"lblOblSides", "lblOblAngles"});
+    // Two empty labels put each head over its own column of fields.
+    f.addLabel("lblSidesGap", QString());
+    f.addLabel("lblAnglesGap", QString());
+    f.addRow(RowKind::Fields, {"lblSidesGap", "lblOblSides", "lblAnglesGap", "lblOblAngles"});
     for (int i = 0; i < 3; ++i) {
         f.addRow(RowKind::Fields, {sideLabels[i], kSideFields[i], angleLabels[i], kAngleFields[i]});
     }
