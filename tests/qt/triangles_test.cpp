@@ -46,5 +46,33 @@ TEST(QtTriangles, RightTriangleSwapsEntryAndAnswer) {
     EXPECT_EQ(h.app.find("frmTrig"), nullptr);
 }
 
+TEST(QtTriangles, ObliqueSwapsEntryAndAnswer) {
+    QtHarness h;
+    FormView* obl = h.open("frmOblique");
+    ASSERT_NE(obl, nullptr);
+    EXPECT_EQ(obl->windowTitle(), "Oblique Triangle Trigonometry");
+    QTest::keyClicks(Find<QLineEdit>(obl, "txtO_Side_a"), "6");
+    QTest::keyClicks(Find<QLineEdit>(obl, "txtO_Side_b"), "8");
+    QTest::keyClicks(Find<QLineEdit>(obl, "txtO_Angle_A"), "40");
+    EXPECT_FALSE(obl->widget("txtOblAns")->isVisible());
+    SavePicture(obl, "frmOblique-entry");
+
+    QTest::mouseClick(Find<QPushButton>(obl, "cmdOblCalc"), Qt::LeftButton);
+    EXPECT_EQ(h.ui.messages,
+              QStringList{"There are two solutions possible, both will be calculated."});
+    EXPECT_FALSE(obl->widget("txtO_Side_a")->isVisible());
+    EXPECT_FALSE(obl->widget("cmdODone")->isVisible());
+    EXPECT_TRUE(obl->widget("txtOblAns")->isVisible());
+    EXPECT_TRUE(h.app.find("frmOblique")->text("txtOblAns").contains("***Second Solution***"));
+    SavePicture(obl, "frmOblique-answer");
+
+    QTest::mouseClick(Find<QPushButton>(obl, "cmdOblDone"), Qt::LeftButton);
+    EXPECT_TRUE(obl->widget("txtO_Side_a")->isVisible());
+    EXPECT_FALSE(obl->widget("txtOblAns")->isVisible());
+    EXPECT_EQ(Find<QLineEdit>(obl, "txtO_Side_a")->text(), "6");
+    QTest::mouseClick(Find<QPushButton>(obl, "cmdODone"), Qt::LeftButton);
+    EXPECT_EQ(h.app.find("frmOblique"), nullptr);
+}
+
 }  // namespace
 }  // namespace tavrin
