@@ -46,6 +46,11 @@ TEST(QtQuickCode, TheHubOpensTheBoltCircleWhichListsItsHoles) {
     QTest::mouseClick(Find<QPushButton>(bolt, "Command1"), Qt::LeftButton);
     EXPECT_TRUE(answer->toPlainText().startsWith("X1.5Y-1.0\n"))
         << answer->toPlainText().toStdString();
+
+    // The whole program copies from the keyboard: select all, then copy.
+    answer->setFocus();
+    QTest::keyClick(answer, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(answer->textCursor().selectedText().size(), answer->toPlainText().size());
 }
 
 TEST(QtQuickCode, ThreadMillingWritesASinglePointProgram) {
