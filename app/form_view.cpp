@@ -19,6 +19,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "app/display_text.h"
 #include "app/pictures.h"
 #include "frame/app.h"
 
@@ -27,13 +28,6 @@ namespace tavrin {
 namespace {
 
 constexpr int kUsualFieldChars = 14;
-
-QString ForDisplay(QString text) {
-    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-}
-QString FromDisplay(QString text) {
-    return text.replace(u'\n', QStringLiteral("\r\n"));
-}
 
 int CharsWide(const QWidget* w, int chars) {
     return w->fontMetrics().horizontalAdvance(QLatin1Char('0')) * chars + 12;
@@ -58,20 +52,6 @@ Qt::WindowFlags FlagsFor(FormStyle style) {
     return Qt::Dialog | fixedFrame;
 }
 
-// A control that stands in no row and is not the side picture has no place on
-// the window and is not shown.
-bool InSomeRow(const Form& form, const QString& name) {
-    if (form.side() == name) {
-        return true;
-    }
-    for (const Row& row : form.rows()) {
-        if (row.names.contains(name)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 }  // namespace
 
 FormView::FormView(App& app, Form& form, QWidget* owner)
@@ -87,7 +67,7 @@ FormView::FormView(App& app, Form& form, QWidget* owner)
         if (!c->container.isEmpty() && form.has(c->container)) {
             continue;  // made inside its frame by buildRows
         }
-        if (!InSomeRow(form, c->name)) {
+        if (c->offLayout) {
             continue;
         }
         widgets_.insert(c->name, createWidget(*c, this));

@@ -6,18 +6,36 @@
 
 namespace tavrin {
 
+namespace {
+
+QString SvgPath(const QString& name) {
+    return QStringLiteral(":/pictures/%1.svg").arg(name);
+}
+
+QString PngPath(const QString& name) {
+    return QStringLiteral(":/pictures/%1.png").arg(name);
+}
+
+}  // namespace
+
+bool PictureExists(const QString& name) {
+    return QFile::exists(SvgPath(name)) || QFile::exists(PngPath(name));
+}
+
 QPixmap LoadPicture(const QString& name) {
-    const QString svg = QStringLiteral(":/pictures/%1.svg").arg(name);
-    if (QFile::exists(svg)) {
-        QSvgRenderer renderer(svg);
+    if (QFile::exists(SvgPath(name))) {
+        QSvgRenderer renderer(SvgPath(name));
         QPixmap pixmap(renderer.defaultSize());
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
         renderer.render(&painter);
         return pixmap;
     }
-    const QString png = QStringLiteral(":/pictures/%1.png").arg(name);
-    return QFile::exists(png) ? QPixmap(png) : QPixmap();
+    if (QFile::exists(PngPath(name))) {
+        return QPixmap(PngPath(name));
+    }
+    qWarning("no picture %s", qPrintable(name));
+    return QPixmap();
 }
 
 }  // namespace tavrin

@@ -6,7 +6,8 @@
 namespace tavrin {
 
 // A drawing of the pictures folder by name ("home", "calculator"), at its own
-// size; an empty pixmap when there is none.
+// size; an empty pixmap, and a warning, when there is none.
 QPixmap LoadPicture(const QString& name);
+bool PictureExists(const QString& name);
 
 }  // namespace tavrin

@@ -7,6 +7,7 @@
 #include <QTime>
 #include <cstdlib>
 
+#include "app/display_text.h"
 #include "app/form_view.h"
 #include "frame/app.h"
 
@@ -16,11 +17,6 @@ namespace {
 
 QWidget* ActiveParent() {
     return QApplication::activeWindow();
-}
-
-// Answers are CR LF lines; Qt's boxes want bare line feeds.
-QString ForDisplay(QString text) {
-    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
 
 }  // namespace

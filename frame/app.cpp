@@ -38,6 +38,7 @@ Form& App::load(const QString& name) {
     }
     auto form = std::make_unique<Form>(*this, name);
     build(*form);
+    form->checkPlaced();
     loaded_.push_back(std::move(form));
     Form& f = *loaded_.back();
     f.fire(QString(), Event::Load);

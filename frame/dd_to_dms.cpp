@@ -5,6 +5,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -12,8 +13,7 @@ namespace {
 
 // The packed form of 22 degrees, 3 minutes, 22 seconds, shown while DD is on.
 QString PackedHint() {
-    return QStringLiteral("      enter 22") + kDegreeSign + QStringLiteral(" 3' 22") + u'"' +
-           QStringLiteral(" as 22.0322");
+    return "      enter " + DmsExample();
 }
 
 void FindDd(Form& f) {

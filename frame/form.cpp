@@ -1,5 +1,6 @@
 #include "frame/form.h"
 
+#include <QSet>
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
@@ -15,12 +16,12 @@ QString HandlerKey(const QString& control, Event event) {
     return control + u'|' + QString::number(static_cast<int>(event));
 }
 
+}  // namespace
+
 bool IsList(ControlKind kind) {
     return kind == ControlKind::Combo || kind == ControlKind::DropDownList ||
            kind == ControlKind::ListBox;
 }
-
-}  // namespace
 
 Form::Form(App& app, QString name) : app_(app), name_(std::move(name)) {}
 
@@ -97,6 +98,29 @@ void Form::addRow(RowKind kind, const QStringList& names) {
         control(n);  // a row may only name declared controls
     }
     rows_.push_back(Row{kind, names});
+}
+
+void Form::setOffLayout(const QStringList& names) {
+    for (const QString& n : names) {
+        mutableControl(n).offLayout = true;
+    }
+}
+
+void Form::checkPlaced() const {
+    QSet<QString> placed{side_};
+    for (const Row& row : rows_) {
+        for (const QString& n : row.names) {
+            placed.insert(n);
+        }
+    }
+    for (const auto& c : controls_) {
+        const bool unseen = c->kind == ControlKind::Menu || c->kind == ControlKind::MenuItem ||
+                            c->kind == ControlKind::Timer;
+        if (!unseen && !c->offLayout && !placed.contains(c->name)) {
+            throw std::logic_error("control " + c->name.toStdString() + " of " +
+                                   name_.toStdString() + " stands in no row");
+        }
+    }
 }
 
 void Form::addField(const QString& labelName, const QString& caption, const QString& boxName) {

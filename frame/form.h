@@ -29,6 +29,9 @@ enum class ControlKind {
     MenuItem,
 };
 
+// A drop-down, with or without its edit field, or a list box.
+bool IsList(ControlKind kind);
+
 enum class ScrollBars { None, Vertical, Both };
 
 struct Control {
@@ -42,6 +45,9 @@ struct Control {
     bool visible = true;
     bool enabled = true;
     QString container;  // frame of an option or check, menu of a menu item
+    // Declared for the handlers but drawn by no row (a caption the picture
+    // carries itself, say).
+    bool offLayout = false;
 
     // Text boxes.
     bool locked = false;
@@ -129,6 +135,10 @@ class Form {
     // A caption label and a text box in one step, on a row of their own.
     void addField(const QString& labelName, const QString& caption, const QString& boxName);
     const std::vector<Row>& rows() const { return rows_; }
+    void setOffLayout(const QStringList& names);
+    // Every control stands in a row, is the side picture, a menu or a timer, or
+    // is marked off-layout; otherwise the window is refused, naming the stray.
+    void checkPlaced() const;
 
     void on(const QString& control, Event event, Handler handler);
     void onLoad(Handler handler) { on(QString(), Event::Load, std::move(handler)); }

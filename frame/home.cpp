@@ -6,19 +6,13 @@
 #include "frame/form_registry.h"
 #include "frame/launch_tables.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
 namespace {
 
 const QString kQuickLauncher = QStringLiteral("Quick Launcher");
-
-// Windows not built yet do nothing, as an index outside the table does.
-void ShowIfBuilt(Form& f, const QString& form) {
-    if (App::IsBuilt(form)) {
-        f.app().show(form);
-    }
-}
 
 void ReadSettings(Form& f) {
     SettingsStore& store = f.app().settings();
@@ -62,7 +56,7 @@ void LaunchListClick(Form& f) {
     const int index = f.listIndex("lstSelection");
     const auto& list = LaunchList();
     if (index >= 0 && index < static_cast<int>(list.size())) {
-        ShowIfBuilt(f, list[index].form);
+        ShowIfBuilt(f.app(), list[index].form);
     }
 }
 
@@ -70,7 +64,7 @@ void QuickLauncherClick(Form& f) {
     const QString chosen = f.listText("Combo1");
     for (const LaunchEntry& e : QuickLauncherTable()) {
         if (e.text == chosen) {
-            ShowIfBuilt(f, e.form);
+            ShowIfBuilt(f.app(), e.form);
             break;
         }
     }
@@ -129,13 +123,13 @@ void Build(Form& f) {
     f.onUnload(Closing);
     f.onClick("lstSelection", LaunchListClick);
     f.onClick("Combo1", QuickLauncherClick);
-    f.onClick("Command1", [](Form& f) { ShowIfBuilt(f, "form1"); });
+    f.onClick("Command1", [](Form& f) { ShowIfBuilt(f.app(), "form1"); });
     f.onClick("Command2", CalculatorClick);
-    f.onClick("Command3", [](Form& f) { ShowIfBuilt(f, "frmConversions"); });
-    f.onClick("Command4", [](Form& f) { ShowIfBuilt(f, "frmQuickCode"); });
-    f.onClick("mnuDisclaimer", [](Form& f) { ShowIfBuilt(f, "frmDisclaimer"); });
-    f.onClick("mnuAbout", [](Form& f) { ShowIfBuilt(f, "frmAbout"); });
-    f.onClick("mnuSettings", [](Form& f) { ShowIfBuilt(f, "frmSettings"); });
+    f.onClick("Command3", [](Form& f) { ShowIfBuilt(f.app(), "frmConversions"); });
+    f.onClick("Command4", [](Form& f) { ShowIfBuilt(f.app(), "frmQuickCode"); });
+    f.onClick("mnuDisclaimer", [](Form& f) { ShowIfBuilt(f.app(), "frmDisclaimer"); });
+    f.onClick("mnuAbout", [](Form& f) { ShowIfBuilt(f.app(), "frmAbout"); });
+    f.onClick("mnuSettings", [](Form& f) { ShowIfBuilt(f.app(), "frmSettings"); });
 }
 
 const FormRegistration registration("frmHome", Build);

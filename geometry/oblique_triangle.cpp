@@ -7,12 +7,12 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
 namespace {
 
-const QChar kDiameterSign(0x00D8);
 const QString kFillThree = "Error, Please fill three data fields with values greater than zero.";
 const QString kInvalid = "Error, Invalid Input";
 
@@ -56,11 +56,7 @@ Real Q(Real x) {
 }
 
 void AnswerLayout(Form& f, bool answer) {
-    for (const QString& name : kEntries) {
-        f.setVisible(name, !answer);
-    }
-    f.setVisible("txtOblAns", answer);
-    f.setVisible("cmdOblDone", answer);
+    ShowAnswerBox(f, kEntries, {"txtOblAns", "cmdOblDone"}, answer);
 }
 
 // The message, and back to the entries; the answer box keeps what it had.
@@ -446,7 +442,7 @@ void Build(Form& f) {
     const char* marks[][2] = {{"Label3", "a"}, {"Label4", "b"}, {"Label5", "c"},
                               {"Label6", "A"}, {"Label7", "C"}, {"Label8", "B"}};
     for (const auto& m : marks) {
-        f.addLabel(m[0], m[1]);
+        f.addLabel(m[0], m[1]).offLayout = true;
     }
     f.addImage("imgTriangle", "oblique_triangle");
     f.setSide("imgTriangle");

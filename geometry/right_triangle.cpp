@@ -6,12 +6,11 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
 namespace {
-
-const QChar kDiameterSign(0x00D8);
 
 // Field captions by the known pair, in the order of popSides.
 struct KnownPair {
@@ -38,6 +37,7 @@ struct Triangle {
 // The entry controls that give way to the answer box.
 const QStringList kEntries{"txtSideOne", "txtSideTwo", "popSides", "Command1",
                            "Command2",   "Command4",   "chkDMS"};
+const QStringList kAnswer{"field2747", "Command3"};
 
 Real R6(Real x) {
     return RoundTo(x, 6);
@@ -169,21 +169,13 @@ void Calculate(Form& f) {
     Solve(f, index, angleText, t);
     f.setText("field2747", "Calculating...");
     const QString answer = AnswerText(t, f.app().decPlace);
-    for (const QString& name : kEntries) {
-        f.setVisible(name, false);
-    }
     f.setText("field2747", answer);
-    f.setVisible("field2747", true);
-    f.setVisible("Command3", true);
+    ShowAnswerBox(f, kEntries, kAnswer, true);
 }
 
 void BackToEntry(Form& f) {
-    for (const QString& name : kEntries) {
-        f.setVisible(name, true);
-    }
     f.setText("field2747", QString());
-    f.setVisible("field2747", false);
-    f.setVisible("Command3", false);
+    ShowAnswerBox(f, kEntries, kAnswer, false);
 }
 
 void PairChosen(Form& f) {
@@ -222,6 +214,7 @@ void Build(Form& f) {
     f.addLabel("Label7", "side c");
     f.addLabel("Label8", "Angle B");
     f.addLabel("Label5", "Angle C");
+    f.setOffLayout({"Label9", "Label6", "Label7", "Label8", "Label5"});
     f.addImage("imgTriangle", "right_triangle");
     f.setSide("imgTriangle");
 

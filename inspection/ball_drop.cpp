@@ -7,6 +7,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 #include "inspection/ball_limits.h"
 
 namespace tavrin {
@@ -273,10 +274,8 @@ void ModeChange(Form& f) {
 
 void DmsClick(Form& f) {
     if (f.value("chkDMSbd")) {
-        ProgramMessage(f, "Enter 22" + QString(kDegreeSign) +
-                              " 3' 22\" as 22.0322 (always use a "
-                              "leading zero for minutes or seconds "
-                              "less than 10)");
+        ProgramMessage(f, "Enter " + DmsExample() +
+                              " (always use a leading zero for minutes or seconds less than 10)");
     }
 }
 

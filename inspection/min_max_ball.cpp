@@ -5,6 +5,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 #include "inspection/ball_limits.h"
 
 namespace tavrin {
@@ -21,9 +22,7 @@ void Calculate(Form& f) {
 }
 
 void DmsHint(Form& f) {
-    f.setCaption("Field3160", f.value("chkDMSmin")
-                                  ? "enter 22" + QString(kDegreeSign) + " 3' 22\" as 22.0322"
-                                  : QString());
+    f.setCaption("Field3160", f.value("chkDMSmin") ? "enter " + DmsExample() : QString());
 }
 
 void Build(Form& f) {

@@ -7,6 +7,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -86,10 +87,8 @@ void ClearAll(Form& f) {
 }
 
 void Help(Form& f) {
-    ProgramMessage(f, QStringLiteral("If entering the angle in Degrees Minutes Seconds enter 22") +
-                          kDegreeSign + QStringLiteral(" 3' 22") + QChar(34) +
-                          QStringLiteral(" as 22.0322 (always use a leading zero for minutes or "
-                                         "seconds less than 10)") +
+    ProgramMessage(f, "If entering the angle in Degrees Minutes Seconds enter " + DmsExample() +
+                          " (always use a leading zero for minutes or seconds less than 10)" +
                           QChar(10) +
                           QStringLiteral("A neg. or pos. start angle may be entered. (To start "
                                          "before or after 3 o'clock pos.)"));

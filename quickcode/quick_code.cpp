@@ -3,17 +3,11 @@
 #include "frame/app.h"
 #include "frame/form.h"
 #include "frame/form_registry.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
 namespace {
-
-// Generators not built yet do nothing, as on the home window.
-void ShowIfBuilt(Form& f, const QString& form) {
-    if (App::IsBuilt(form)) {
-        f.app().show(form);
-    }
-}
 
 void Build(Form& f) {
     f.setTitle("Quick Code");
@@ -28,11 +22,11 @@ void Build(Form& f) {
     f.addRow(RowKind::Buttons, {"Command1", "Command2", "Command3"});
     f.addRow(RowKind::Buttons, {"Command4", "Command5"});
 
-    f.onClick("Command1", [](Form& f) { ShowIfBuilt(f, "frmBoltCircle"); });
-    f.onClick("Command2", [](Form& f) { ShowIfBuilt(f, "frmGrid"); });
-    f.onClick("Command3", [](Form& f) { ShowIfBuilt(f, "frmThdMill"); });
-    f.onClick("Command4", [](Form& f) { ShowIfBuilt(f, "frmLatheDrill"); });
-    f.onClick("Command5", [](Form& f) { ShowIfBuilt(f, "frmLatheThread"); });
+    f.onClick("Command1", [](Form& f) { ShowIfBuilt(f.app(), "frmBoltCircle"); });
+    f.onClick("Command2", [](Form& f) { ShowIfBuilt(f.app(), "frmGrid"); });
+    f.onClick("Command3", [](Form& f) { ShowIfBuilt(f.app(), "frmThdMill"); });
+    f.onClick("Command4", [](Form& f) { ShowIfBuilt(f.app(), "frmLatheDrill"); });
+    f.onClick("Command5", [](Form& f) { ShowIfBuilt(f.app(), "frmLatheThread"); });
 }
 
 const FormRegistration registration("frmQuickCode", Build);

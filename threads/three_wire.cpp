@@ -1,6 +1,7 @@
 // Three Wire Check: measurement over wires, pitch diameter and basic
 // measurement for seven thread forms, with best wire sizes and thread depth.
 
+#include "frame/angles.h"
 #include "frame/app.h"
 #include "frame/form.h"
 #include "frame/form_registry.h"
@@ -10,7 +11,6 @@ namespace tavrin {
 
 namespace {
 
-const QChar kDegree(0x00B0);
 const QChar kOUmlaut(0x00F6);
 
 enum ThreadForm { Ansu, Whitworth, SharpV, Acme, Loewenherz, BritishAssoc, IsoMetric };
@@ -21,13 +21,13 @@ bool WorksInMillimetres(int form) {
 }
 
 QStringList ThreadForms() {
-    return {"ANSU (60" + QString(kDegree) + ")",
-            "Whitworth (55" + QString(kDegree) + ")",
-            "Sharp V (60" + QString(kDegree) + ")",
-            "Acme (29" + QString(kDegree) + ")",
-            "L" + QString(kOUmlaut) + "wenherz (53" + QString(kDegree) + " 8')",
-            "British Assoc. (47" + QString(kDegree) + " 30')",
-            "ISO Metric (60" + QString(kDegree) + ")"};
+    return {"ANSU (60" + QString(kDegreeSign) + ")",
+            "Whitworth (55" + QString(kDegreeSign) + ")",
+            "Sharp V (60" + QString(kDegreeSign) + ")",
+            "Acme (29" + QString(kDegreeSign) + ")",
+            "L" + QString(kOUmlaut) + "wenherz (53" + QString(kDegreeSign) + " 8')",
+            "British Assoc. (47" + QString(kDegreeSign) + " 30')",
+            "ISO Metric (60" + QString(kDegreeSign) + ")"};
 }
 
 // Threads per inch as the fields give them: metric input scales the entry,

@@ -4,42 +4,13 @@
 
 namespace tavrin::testing {
 
-void FakeUi::showWindow(Form& form) {
-    shownWindows << form.name();
-}
-void FakeUi::showModal(Form& form) {
-    shownWindows << form.name();
-}
-
-void FakeUi::message(const QString& title, const QString& text) {
-    messages.push_back({title, text});
-}
-
-bool FakeUi::question(const QString& title, const QString& text) {
-    questions.push_back({title, text});
-    if (answers.empty()) {
-        return false;
-    }
-    const bool yes = answers.front();
-    answers.pop_front();
-    return yes;
-}
-
-void FakeUi::fatal(const QString& title, const QString& text) {
-    fatals.push_back({title, text});
-}
-
-bool FakeUi::startProgram(const QString& program) {
-    startAttempts << program;
-    return installedPrograms.contains(program);
-}
-
-QStringList FakeUi::messageTexts() const {
-    QStringList texts;
-    for (const Shown& m : messages) {
-        texts << m.text;
-    }
-    return texts;
+FakeUi::FakeUi() {
+    onShown = [this](const Shown& box) {
+        auto& list = box.kind == Kind::Message    ? messages
+                     : box.kind == Kind::Question ? questions
+                                                  : fatals;
+        list.push_back({box.title, box.text});
+    };
 }
 
 Harness::Harness() {

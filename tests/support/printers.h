@@ -17,3 +17,8 @@ inline void PrintTo(const QStringList& texts, std::ostream* os) {
     }
     *os << '}';
 }
+
+// So that a failure can name its case: EXPECT_EQ(...) << name.
+inline std::ostream& operator<<(std::ostream& os, const QString& text) {
+    return os << text.toStdString();
+}

@@ -27,10 +27,6 @@ bool SplitTarget(const QString& target, QString& form, QString& control) {
     return true;
 }
 
-bool IsList(ControlKind k) {
-    return k == ControlKind::Combo || k == ControlKind::DropDownList || k == ControlKind::ListBox;
-}
-
 bool IsClickable(ControlKind k) {
     return k == ControlKind::Button || k == ControlKind::Option || k == ControlKind::Check ||
            k == ControlKind::MenuItem;
@@ -72,26 +68,27 @@ JsonLine Describe(const QString& target, const Control& c) {
 
 }  // namespace
 
-void RecordingUi::message(const QString& title, const QString& text) {
-    Write(out_, JsonLine().add("event", "message").add("title", title).add("text", text));
-}
-
-bool RecordingUi::question(const QString& title, const QString& text) {
-    bool yes = false;
-    if (!answers_.empty()) {
-        yes = answers_.front();
-        answers_.pop_front();
-    }
-    Write(out_, JsonLine()
-                    .add("event", "question")
-                    .add("title", title)
-                    .add("text", text)
-                    .add("answer", yes ? "yes" : "no"));
-    return yes;
-}
-
-void RecordingUi::fatal(const QString&, const QString& text) {
-    Write(out_, JsonLine().add("event", "fatal").add("text", text));
+Driver::Driver(App& app, RecordingUi& ui, std::ostream& out) : app_(app), ui_(ui), out_(out) {
+    ui_.onShown = [this](const RecordingUi::Shown& box) {
+        switch (box.kind) {
+            case RecordingUi::Kind::Message:
+                Write(out_, JsonLine()
+                                .add("event", "message")
+                                .add("title", box.title)
+                                .add("text", box.text));
+                break;
+            case RecordingUi::Kind::Question:
+                Write(out_, JsonLine()
+                                .add("event", "question")
+                                .add("title", box.title)
+                                .add("text", box.text)
+                                .add("answer", box.answer ? "yes" : "no"));
+                break;
+            case RecordingUi::Kind::Fatal:
+                Write(out_, JsonLine().add("event", "fatal").add("text", box.text));
+                break;
+        }
+    };
 }
 
 int Driver::ExitCode(Status status) {
@@ -116,7 +113,7 @@ Driver::Status Driver::afterStep() {
     if (app_.ended()) {
         return Status::Fatal;
     }
-    if (ui_.quitting()) {
+    if (ui_.quits > 0) {
         Write(out_, JsonLine().add("event", "end"));
         return Status::Finished;
     }
@@ -180,7 +177,7 @@ Driver::Status Driver::run(const QString& rawLine) {
             if (rest != "yes" && rest != "no") {
                 return fail(QStringLiteral("answer takes yes or no, not %1").arg(rest));
             }
-            ui_.queueAnswer(rest == "yes");
+            ui_.answers.push_back(rest == "yes");
             return Status::Going;
         }
         if (verb == "show") {

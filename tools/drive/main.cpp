@@ -26,14 +26,14 @@ int main(int argc, char** argv) {
     if (!store) {
         store = std::make_unique<tavrin::MemorySettings>();
     }
-    tavrin::RecordingUi ui(std::cout);
+    tavrin::RecordingUi ui;
     tavrin::App app(ui, *store);
+    tavrin::Driver driver(app, ui, std::cout);
     app.splashEnabled = false;
     app.start();
     if (app.ended()) {
         return 3;
     }
-    tavrin::Driver driver(app, ui, std::cout);
     std::string line;
     while (std::getline(std::cin, line)) {
         const auto status = driver.run(QString::fromStdString(line));

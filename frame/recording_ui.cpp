@@ -1,0 +1,55 @@
+#include "frame/recording_ui.h"
+
+#include "frame/form.h"
+
+namespace tavrin {
+
+void RecordingUi::showWindow(Form& form) {
+    shownWindows << form.name();
+}
+
+void RecordingUi::showModal(Form& form) {
+    shownWindows << form.name();
+}
+
+void RecordingUi::record(Shown box) {
+    shown.push_back(std::move(box));
+    if (onShown) {
+        onShown(shown.back());
+    }
+}
+
+void RecordingUi::message(const QString& title, const QString& text) {
+    record({Kind::Message, title, text});
+}
+
+bool RecordingUi::question(const QString& title, const QString& text) {
+    bool yes = false;
+    if (!answers.empty()) {
+        yes = answers.front();
+        answers.pop_front();
+    }
+    record({Kind::Question, title, text, yes});
+    return yes;
+}
+
+void RecordingUi::fatal(const QString& title, const QString& text) {
+    record({Kind::Fatal, title, text});
+}
+
+bool RecordingUi::startProgram(const QString& program) {
+    startAttempts << program;
+    return installedPrograms.contains(program);
+}
+
+QStringList RecordingUi::texts(Kind kind) const {
+    QStringList out;
+    for (const Shown& box : shown) {
+        if (box.kind == kind) {
+            out << box.text;
+        }
+    }
+    return out;
+}
+
+}  // namespace tavrin

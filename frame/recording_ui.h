@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <deque>
+#include <functional>
+#include <vector>
+
+#include "frame/ui.h"
+
+namespace tavrin {
+
+// A display that has none: it keeps each message, question and fatal box in
+// order, answers questions from a queue (No when it is empty), starts only
+// the programs it is told are installed, and its clock moves half a second a
+// reading. The script driver and the tests both run the windows on it.
+class RecordingUi : public Ui {
+  public:
+    enum class Kind { Message, Question, Fatal };
+    struct Shown {
+        Kind kind;
+        QString title;
+        QString text;
+        bool answer = false;  // of a question
+    };
+
+    std::vector<Shown> shown;
+    std::deque<bool> answers;
+    QStringList installedPrograms;
+    QStringList startAttempts;
+    QStringList shownWindows;
+    int quits = 0;
+    float clock = 0;
+    // Told of each box as it comes.
+    std::function<void(const Shown&)> onShown;
+
+    void showWindow(Form& form) override;
+    void showModal(Form& form) override;
+    void windowUnloaded(Form&) override {}
+    void message(const QString& title, const QString& text) override;
+    bool question(const QString& title, const QString& text) override;
+    void fatal(const QString& title, const QString& text) override;
+    void processEvents() override {}
+    bool startProgram(const QString& program) override;
+    float secondsSinceMidnight() override { return clock += 0.5f; }
+    void quit() override { ++quits; }
+
+    // The texts of the boxes of one kind, in order.
+    QStringList texts(Kind kind) const;
+    QStringList messageTexts() const { return texts(Kind::Message); }
+    QStringList questionTexts() const { return texts(Kind::Question); }
+    QStringList fatalTexts() const { return texts(Kind::Fatal); }
+
+  private:
+    void record(Shown box);
+};
+
+}  // namespace tavrin

@@ -1,0 +1,46 @@
+#include "frame/window_kit.h"
+
+#include <stdexcept>
+
+#include "frame/angles.h"
+#include "frame/app.h"
+#include "frame/form.h"
+
+namespace tavrin {
+
+QString DmsExample() {
+    return QStringLiteral("22") + kDegreeSign + QStringLiteral(" 3' 22\" as 22.0322");
+}
+
+const QStringList& NotYetBuilt() {
+    static const QStringList names{
+        "form1",           "frmConversions",   "frmCircleData",    "frmCirDivided",
+        "frmCircSegments", "frmPolygons",      "frmDistTwoPoints", "frmMidTwoPoints",
+        "frmArcCenter",    "frmIntersect",     "frmInclineOfLine", "frmPolar",
+        "frmRotate",       "frmTangency",      "frmBallSub",       "frmBallToBall",
+        "frmFaceToBall",   "frmTapers",        "frmRoll",          "frmSinePlate",
+        "frmTruePos",      "frmPinInaDiamond", "frmTap",           "frmDrillTip",
+        "frmCounterSink",  "frmIpmIpr",        "frmCusp",          "frmTRC",
+        "frmIK",           "frmWeight",        "frmGrid",          "frmLatheDrill",
+        "frmLatheThread"};
+    return names;
+}
+
+void ShowIfBuilt(App& app, const QString& name) {
+    if (App::IsBuilt(name)) {
+        app.show(name);
+    } else if (!NotYetBuilt().contains(name)) {
+        throw std::logic_error("no window " + name.toStdString());
+    }
+}
+
+void ShowAnswerBox(Form& f, const QStringList& entries, const QStringList& answer, bool shown) {
+    for (const QString& name : entries) {
+        f.setVisible(name, !shown);
+    }
+    for (const QString& name : answer) {
+        f.setVisible(name, shown);
+    }
+}
+
+}  // namespace tavrin

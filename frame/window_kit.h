@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QChar>
+#include <QString>
+#include <QStringList>
+
+namespace tavrin {
+
+class App;
+class Form;
+
+// Small idioms that many windows share.
+
+// The diameter sign of the answer lines ("Inscribed CircleØ= ").
+const QChar kDiameterSign(0x00D8);
+
+// How a packed angle is typed, 22° 3' 22" as 22.0322; each window puts its
+// own words around it.
+QString DmsExample();
+
+// The windows that the launch list, the Quick Launcher and the Quick Code hub
+// name but that are not built yet: choosing one does nothing.
+const QStringList& NotYetBuilt();
+
+// Shows a window as the home window would. A name that is neither built nor
+// on the not-yet-built list is a programming fault and throws.
+void ShowIfBuilt(App& app, const QString& name);
+
+// The answer box and its own Done button take the place of the entry
+// controls, or give it back.
+void ShowAnswerBox(Form& f, const QStringList& entries, const QStringList& answer, bool shown);
+
+}  // namespace tavrin
