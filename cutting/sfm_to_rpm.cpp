@@ -1,11 +1,23 @@
 // SFM <--> RPM: spindle speed from surface speed and back.
 
+#include "cutting/sfm_to_rpm.h"
+
 #include "frame/app.h"
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
 
 namespace tavrin {
+
+// 3.1416 and one place, whatever DecPlace says: this window has always
+// answered that way.
+Real SpindleRpm(Real sfm, Real diameter) {
+    return RoundTo((sfm * 12) / (diameter * 3.1416), 1);
+}
+
+Real SurfaceFeet(Real rpm, Real diameter) {
+    return RoundTo((rpm * 3.1416 * diameter) / 12, 1);
+}
 
 namespace {
 
@@ -19,16 +31,12 @@ void Calculate(Form& f) {
         ProgramMessage(f, "Error, Values must be greater than zero.");
         return;
     }
-    // 3.1416 and one place, whatever DecPlace says: this window has always
-    // answered that way.
+    const Real speed = ValOf(f.text("txtSfm"));
+    const Real diameter = ValOf(f.text("txtDia"));
     if (f.value("optRpm")) {
-        Real value = (ValOf(f.text("txtSfm")) * 12) / (ValOf(f.text("txtDia")) * 3.1416);
-        value = RoundTo(value, 1);
-        f.setText("lblRpm", "Revolutions Per Minute = " + NumToStr(value));
+        f.setText("lblRpm", "Revolutions Per Minute = " + NumToStr(SpindleRpm(speed, diameter)));
     } else if (f.value("optSfm")) {
-        Real value = (ValOf(f.text("txtSfm")) * 3.1416 * ValOf(f.text("txtDia"))) / 12;
-        value = RoundTo(value, 1);
-        f.setText("lblRpm", "Surface Feet Per Minute = " + NumToStr(value));
+        f.setText("lblRpm", "Surface Feet Per Minute = " + NumToStr(SurfaceFeet(speed, diameter)));
     }
 }
 

@@ -36,6 +36,12 @@ struct Harness {
     // Types into a text box, as a user would.
     void set(Form& form, const QString& control, const QString& text);
     void click(Form& form, const QString& control);
+    // Opens the window (if not open) and runs the steps in order, as a user
+    // would: "txtSfm=300" types a text, "popSides#3" selects item 3, a bare
+    // name clicks. Returns the window.
+    Form& run(const QString& form, const QStringList& steps);
+    // The text of the last message, question or fatal box; empty when none came.
+    QString lastBox() const;
 };
 
 }  // namespace tavrin::testing
