@@ -55,6 +55,7 @@ struct Sample {
         f.addLabel("lblA", "A");
         f.addTextBox("txtA");
         f.addImage("Image1", "home");
+        f.addLabel("lblOff", "drawn by no row");
         f.add(ControlKind::Menu, "mnuFile", "File");
         f.add(ControlKind::MenuItem, "mnuGo", "Go").container = "mnuFile";
         f.add(ControlKind::Timer, "Timer1").interval = 1;
@@ -66,6 +67,7 @@ struct Sample {
         f.addRow(RowKind::Line, {"txtAns", "lblAns"});
         f.addRow(RowKind::Buttons, {"Command1"});
         f.setSide("Image1");
+        f.setOffLayout({"lblOff"});
         for (const QString name :
              {"Command1", "mnuGo", "lstPick", "cboEdit", "optTwo", "chkThree"}) {
             f.onClick(name, [this, name](Form&) { log << name + "#" + f.listText(name); });
@@ -82,12 +84,15 @@ TEST(QtView, WidgetsFollowEveryChangeOfTheLogic) {
     FormView* v = s.view.get();
     EXPECT_EQ(v->findChildren<QRadioButton*>().size(), 2)
         << "options are made once, in their frame";
+    EXPECT_TRUE(v->widget("lblOff") == nullptr && s.button("optOne")->isChecked());
     EXPECT_FALSE(s.button("Command1")->icon().isNull());
     auto* line = Find<QLineEdit>(v, "lblAns");
     EXPECT_TRUE(line->isReadOnly() && line->alignment() == Qt::AlignCenter);
     auto* answer = Find<QPlainTextEdit>(v, "txtAns");
-    EXPECT_TRUE(answer->isReadOnly() && answer->lineWrapMode() == QPlainTextEdit::NoWrap);
-    EXPECT_FALSE(Find<QPlainTextEdit>(v, "txtNotes")->isReadOnly());
+    EXPECT_TRUE(answer->isReadOnly() && answer->lineWrapMode() == QPlainTextEdit::NoWrap &&
+                answer->horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOn);
+    auto* notes = Find<QPlainTextEdit>(v, "txtNotes");
+    EXPECT_TRUE(!notes->isReadOnly() && notes->verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOff);
     Form& f = s.f;
     f.setTitle("Retitled");
     f.setCaption("lblA", "A caption longer than any the window was made for");
@@ -103,6 +108,8 @@ TEST(QtView, WidgetsFollowEveryChangeOfTheLogic) {
     f.setVisible("txtB", false);
     f.setEnabled("Command1", false);
     f.setCaption("mnuGo", "Run");
+    f.setEnabled("mnuGo", false);
+    f.setVisible("mnuFile", false);
     f.setPicture("Image1", "settings");
     QApplication::processEvents();
     EXPECT_EQ(v->windowTitle(), "Retitled");
@@ -119,7 +126,8 @@ TEST(QtView, WidgetsFollowEveryChangeOfTheLogic) {
     auto* list = Find<QListWidget>(v, "lstPick");
     EXPECT_TRUE(list->count() == 2 && list->currentItem()->text() == "r");
     EXPECT_FALSE(v->widget("txtB")->isVisible() || s.button("Command1")->isEnabled());
-    EXPECT_EQ(v->action("mnuGo")->text(), "Run");
+    QAction* go = v->action("mnuGo");
+    EXPECT_TRUE(go->text() == "Run" && !go->isEnabled() && !v->action("mnuFile")->isVisible());
     EXPECT_TRUE(Find<QLabel>(v, "Image1")->pixmap().toImage() == LoadPicture("settings").toImage());
 }
 
@@ -130,8 +138,9 @@ TEST(QtView, TheUsersEditsAndClicksReachTheLogic) {
     QTest::keyClicks(Find<QPlainTextEdit>(v, "txtNotes"), "a\rb");
     auto* combo = Find<QComboBox>(v, "cboEdit");
     QTest::keyClicks(combo->lineEdit(), "w");
-    EXPECT_EQ(QStringList({s.f.text("txtA"), s.f.text("txtNotes"), s.f.text("cboEdit")}),
-              QStringList({"12", "a\r\nb", "w"}))
+    EXPECT_EQ(QStringList({s.f.text("txtA"), s.f.text("txtNotes"), s.f.text("cboEdit"),
+                           combo->currentText()}),
+              QStringList({"12", "a\r\nb", "w", "w"}))
         << "lines go back as CR LF";
     QTest::keyClick(combo, Qt::Key_Down);
     // An option clicked when on stays on, which Qt alone would turn off.
@@ -175,12 +184,22 @@ TEST(QtView, ColumnsTabOrderAndOnlyTheUsersOwnMovesInAList) {
     EXPECT_EQ(order,
               QStringList({"txtA", "txtB", "txtNotes", "txtN", "optOne", "optTwo", "chkThree",
                            "cboEdit", "lstPick", "UpDown", "UpDown", "Command1", "txtAns"}));
+    auto* list = Find<QListWidget>(v, "lstPick");
+    QApplication::processEvents();
+    EXPECT_TRUE(s.log.isEmpty() && list->currentRow() == -1) << "the focus passing chose nothing";
+    const QPoint p = list->visualItemRect(list->item(0)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, p);
+    QApplication::processEvents();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, p);
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(s.log, QStringList({"lstPick#p", "lstPick#p", "lstPick#q"}));
 }
 
 TEST(QtWindows, HomeStandsAtItsStoredPlaceAndTheOthersBesideIt) {
     QtHarness h;
     FormView* home = h.view("frmHome");
     const Form& form = *h.app.find("frmHome");
+    EXPECT_EQ(home->windowTitle(), form.title());
     EXPECT_EQ(home->pos(), QPoint(qRound(3420 * home->logicalDpiX() / 1440.0),
                                   qRound(5000 * home->logicalDpiY() / 1440.0)));
     EXPECT_EQ(form.top(), 5000) << "showing it leaves the stored twips as they were";
