@@ -22,6 +22,7 @@ QJsonObject Json(const QString& line) {
 // A list shows its chosen index and that item's text, or what was typed.
 void ExpectList(const QString& line, int index, const QString& typed = {}) {
     const QJsonObject o = Json(line);
+    EXPECT_EQ(o.keys(), QStringList({"control", "enabled", "index", "items", "text", "visible"}));
     EXPECT_EQ(o["index"].toInt(-9), index) << line;
     const QString chosen = index < 0 ? typed : o["items"].toArray().at(index).toString();
     EXPECT_EQ(o["text"].toString(), chosen) << line;
@@ -78,8 +79,10 @@ TEST(Drive, WhatItCannotCarryOutIsAnErrorAndTheLastLine) {
     const std::vector<std::pair<QByteArray, QString>> cases{
         {"open frmNowhere", "no window frmNowhere"},
         {"show frmNowhere", "no window frmNowhere"},
+        {"click frmNowhere.Command1", "no window frmNowhere"},
         {"click frmSfmToRpm.Command1", "window frmSfmToRpm is not open"},
         {"click frmHome.Command9", "no control Command9 on frmHome"},
+        {"show frmHome.Command9", "no control Command9 on frmHome"},
         {"click frmHome.", "expected FORM.CONTROL, not frmHome."},
         {"show .Command1", "expected FORM.CONTROL, not .Command1"},
         {"frobnicate x", "unknown command frobnicate"},
@@ -89,6 +92,7 @@ TEST(Drive, WhatItCannotCarryOutIsAnErrorAndTheLastLine) {
         {"type frmHome.Combo1 \"3", R"(expected a JSON string, not \"3)"},
         {"type frmHome.Combo1 \"3\", \"0\"", R"(expected a JSON string, not \"3\", \"0\")"},
         {"click frmHome.lstSelection", "frmHome.lstSelection cannot be clicked"},
+        {"select frmHome.Command1 0", "frmHome.Command1 is not a list"},
         {"select frmHome.lstSelection 34", "frmHome.lstSelection has no item 34"},
         {"select frmHome.lstSelection -1", "frmHome.lstSelection has no item -1"},
         {"select frmHome.lstSelection x", "frmHome.lstSelection has no item x"},
