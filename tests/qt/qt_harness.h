@@ -34,6 +34,12 @@ struct QtHarness {
         app.splashEnabled = false;
         app.start();
     }
+    // Otherwise the views outlive the windows, and a late event reaches a dead one.
+    ~QtHarness() {
+        for (Form* f : app.loadedForms()) {
+            delete ui.viewOf(*f);
+        }
+    }
     FormView* view(const QString& name) {
         Form* f = app.find(name);
         return f == nullptr ? nullptr : ui.viewOf(*f);

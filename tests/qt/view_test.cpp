@@ -239,6 +239,7 @@ void AnswerNextBox(QString& seen, QMessageBox::StandardButton button) {
 }
 
 TEST(QtWindows, TheRealBoxesShowLinesTellTheAnswerAndAFatalOneEndsTheProgram) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");  // Qt runs threads of its own
     QtUi ui;
     QString seen;
     AnswerNextBox(seen, QMessageBox::Ok);
