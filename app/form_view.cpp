@@ -382,7 +382,15 @@ void FormView::setTabOrder() {
             for (const QString& name : row.names) {
                 const Control& c = form_->control(name);
                 QWidget* w = widgets_.value(name);
-                if (w != nullptr && accept(c) && !order.contains(w)) {
+                if (w == nullptr || !accept(c) || order.contains(w)) {
+                    continue;
+                }
+                if (c.kind == ControlKind::Spin) {
+                    // Qt skips a widget that takes no focus: the arrows take the turn.
+                    for (QToolButton* arrow : w->findChildren<QToolButton*>()) {
+                        order << arrow;
+                    }
+                } else {
                     order << w;
                 }
             }

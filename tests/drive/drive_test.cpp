@@ -1,6 +1,12 @@
+// What tavrin-drive alone does: its commands, JSON lines and exit codes. The
+// windows are only its stage; their answers are tested in their own suites.
+
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 
 #include "tests/support/drive_session.h"
@@ -8,87 +14,119 @@
 namespace {
 
 using tavrin::testing::Drive;
-using Session = tavrin::testing::DriveSession;
 
-TEST(Drive, AnswersThroughTheSfmWindow) {
-    const Session s = Drive(
-        "open frmSfmToRpm\n"
-        "set frmSfmToRpm.txtSfm \"300\"\n"
-        "set frmSfmToRpm.txtDia \"0.5\"\n"
-        "click frmSfmToRpm.Command1\n"
-        "show frmSfmToRpm.lblRpm\n"
-        "click frmSfmToRpm.optSfm\n"
-        "show frmSfmToRpm.optSfm\n");
+QJsonObject Json(const QString& line) {
+    return QJsonDocument::fromJson(line.toUtf8()).object();
+}
+
+// A list shows its chosen index and that item's text, or what was typed.
+void ExpectList(const QString& line, int index, const QString& typed = {}) {
+    const QJsonObject o = Json(line);
+    EXPECT_EQ(o.keys(), QStringList({"control", "enabled", "index", "items", "text", "visible"}));
+    EXPECT_EQ(o["index"].toInt(-9), index) << line;
+    const QString chosen = index < 0 ? typed : o["items"].toArray().at(index).toString();
+    EXPECT_EQ(o["text"].toString(), chosen) << line;
+}
+
+TEST(Drive, ShowSaysWhatEachKindOfControlHolds) {
+    const auto s = Drive(
+        "# a comment and a blank line are skipped\n\nopen frmThreeWire\n"
+        "set frmThreeWire.txtTPI \"a\\\"b\\u00e9\\r\\n\"\nshow frmThreeWire.txtTPI\n"
+        "click frmThreeWire.chkTWMet\nshow frmThreeWire.chkTWMet\n"
+        "select frmThreeWire.popFindThd 0\nshow frmThreeWire.popFindThd\n"
+        "show frmThreeWire\nclose frmThreeWire\nshow frmThreeWire\n"
+        "click frmHome.mnuSettings\nshow frmSettings.UpDown1\nshow frmHome.Image1\n"
+        "type frmHome.Combo1 \"typed\"\nshow frmHome.Combo1\n"
+        "select frmHome.lstSelection 0\nshow frmHome.lstSelection\n");
     EXPECT_EQ(s.exitCode, 0);
-    ASSERT_EQ(s.lines.size(), 2);
+    ASSERT_EQ(s.lines.size(), 9);
+    const QString shown = R"(, "visible": true, "enabled": true)";
     EXPECT_EQ(s.lines[0],
-              "{\"control\": \"frmSfmToRpm.lblRpm\", \"text\": \"Revolutions Per Minute =  "
-              "2291.8\", \"visible\": true, \"enabled\": true}");
-    EXPECT_EQ(s.lines[1],
-              "{\"control\": \"frmSfmToRpm.optSfm\", \"caption\": \"SFM\", \"visible\": true, "
-              "\"enabled\": true, \"value\": true}");
+              R"({"control": "frmThreeWire.txtTPI", "text": "a\"bé\r\n")" + shown + "}");
+    EXPECT_EQ(s.lines[1], R"({"control": "frmThreeWire.chkTWMet", "caption": "Metric Input")" +
+                              shown + R"(, "value": true})");
+    ExpectList(s.lines[2], 0);
+    EXPECT_EQ(s.lines[3],
+              R"({"window": "frmThreeWire", "open": true, "title": "Three Wire Check"})");
+    EXPECT_EQ(s.lines[4], R"({"window": "frmThreeWire", "open": false})");
+    EXPECT_EQ(s.lines[5], R"({"control": "frmSettings.UpDown1")" + shown + "}");
+    EXPECT_EQ(s.lines[6], R"({"control": "frmHome.Image1", "picture": "home")" + shown + "}");
+    ExpectList(s.lines[7], -1, "typed");
+    ExpectList(s.lines[8], 0);
 }
 
-TEST(Drive, PrintsMessagesAndTheFatalBox) {
-    const Session s = Drive(
-        "select frmHome.lstSelection 20\n"
-        "set frmSfmToRpm.txtSfm \"abc\"\n"
-        "set frmSfmToRpm.txtDia \"1\"\n"
-        "click frmSfmToRpm.Command1\n"
-        "set frmSfmToRpm.txtSfm \"300\"\n"
-        "set frmSfmToRpm.txtDia \"1E400\"\n"
-        "click frmSfmToRpm.Command1\n"
-        "show frmSfmToRpm.lblRpm\n");
+TEST(Drive, BoxesAreEventsAndAFatalOneEndsTheRun) {
+    const auto s = Drive(
+        "open frmSfmToRpm\nclick frmSfmToRpm.optSfm\nclick frmSfmToRpm.Command1\n"
+        "open frmThreeWire\nset frmThreeWire.txtTPI \"20\"\nset frmThreeWire.txtWireSize \".028\"\n"
+        "set frmThreeWire.txtPitchOrOverWire \".2175\"\nanswer yes\nanswer no\n"
+        "click frmThreeWire.Command1\nclick frmThreeWire.Command1\nclick frmThreeWire.Command1\n"
+        "set frmSfmToRpm.txtSfm \"1E400\"\nset frmSfmToRpm.txtDia \"1\"\n"
+        "click frmSfmToRpm.Command1\nshow frmHome\n");
     EXPECT_EQ(s.exitCode, 3);
-    ASSERT_EQ(s.lines.size(), 2);
-    EXPECT_EQ(s.lines[0],
-              "{\"event\": \"message\", \"title\": \"Program Message\", \"text\": \"Error, "
-              "Values must be greater than zero.\"}");
-    EXPECT_EQ(s.lines[1],
-              "{\"event\": \"fatal\", \"text\": \"Run-time error '6':\\r\\n\\r\\nOverflow\"}");
+    ASSERT_EQ(s.lines.size(), 5);
+    EXPECT_EQ(s.lines[0], R"({"event": "message", "title": "Program Message", "text": )"
+                          R"("You must fill both data fields."})");
+    EXPECT_EQ(s.lines[1], R"({"event": "question", "title": "Incorrect wire size", "text": "You )"
+                          R"(have entered an invalid wire size for the data entered, continue?", )"
+                          R"("answer": "yes"})");
+    EXPECT_EQ(Json(s.lines[2])["answer"].toString(), "no");
+    EXPECT_EQ(Json(s.lines[3])["answer"].toString(), "no") << "with none queued the answer is No";
+    EXPECT_EQ(s.lines[4], R"({"event": "fatal", "text": "Run-time error '6':\r\n\r\nOverflow"})");
 }
 
-TEST(Drive, RefusesWhatItCannotCarryOut) {
+TEST(Drive, WhatItCannotCarryOutIsAnErrorAndTheLastLine) {
     const std::vector<std::pair<QByteArray, QString>> cases{
-        {"open frmNowhere\n", "no window frmNowhere"},
-        {"click frmSfmToRpm.Command1\n", "window frmSfmToRpm is not open"},
-        {"open frmSfmToRpm\nclick frmSfmToRpm.Command9\n", "no control Command9 on frmSfmToRpm"},
-        {"open frmSfmToRpm\nset frmSfmToRpm.txtSfm 300\n", "expected a JSON string, not 300"},
-        {"frobnicate x\n", "unknown command frobnicate"},
-        {"select frmHome.lstSelection 34\n", "frmHome.lstSelection has no item 34"},
+        {"open frmNowhere", "no window frmNowhere"},
+        {"show frmNowhere", "no window frmNowhere"},
+        {"click frmNowhere.Command1", "no window frmNowhere"},
+        {"click frmSfmToRpm.Command1", "window frmSfmToRpm is not open"},
+        {"click frmHome.Command9", "no control Command9 on frmHome"},
+        {"show frmHome.Command9", "no control Command9 on frmHome"},
+        {"click frmHome.", "expected FORM.CONTROL, not frmHome."},
+        {"show .Command1", "expected FORM.CONTROL, not .Command1"},
+        {"frobnicate x", "unknown command frobnicate"},
+        {"answer maybe", "answer takes yes or no, not maybe"},
+        {"set frmHome.Combo1 \"x\"", "frmHome.Combo1 does not take set"},
+        {"type frmHome.Combo1 300", "expected a JSON string, not 300"},
+        {"type frmHome.Combo1 \"3", R"(expected a JSON string, not \"3)"},
+        {"type frmHome.Combo1 \"3\", \"0\"", R"(expected a JSON string, not \"3\", \"0\")"},
+        {"click frmHome.lstSelection", "frmHome.lstSelection cannot be clicked"},
+        {"select frmHome.Command1 0", "frmHome.Command1 is not a list"},
+        {"select frmHome.lstSelection 34", "frmHome.lstSelection has no item 34"},
+        {"select frmHome.lstSelection -1", "frmHome.lstSelection has no item -1"},
+        {"select frmHome.lstSelection x", "frmHome.lstSelection has no item x"},
+        {"spin frmHome.Command1 up", "spin takes a spin control and up or down"},
     };
     for (const auto& [script, why] : cases) {
-        const Session s = Drive(script);
+        const auto s = Drive(script + "\nshow frmHome\n");
         EXPECT_EQ(s.exitCode, 2) << script.constData();
-        ASSERT_FALSE(s.lines.isEmpty()) << script.constData();
-        EXPECT_EQ(s.lines.back(), "{\"event\": \"error\", \"text\": \"" + why + "\"}");
+        EXPECT_EQ(s.lines, QStringList(R"({"event": "error", "text": ")" + why + "\"}"))
+            << script.constData();
     }
+    EXPECT_EQ(Drive("", {"--colour"}).exitCode, 2) << "an unknown argument";
 }
 
-TEST(Drive, KeepsSettingsInTheNamedFile) {
+TEST(Drive, SettingsLiveInTheNamedFileAndClosingHomeEndsTheRun) {
     QTemporaryDir dir;
-    const QString ini = dir.filePath("tavrin.ini");
-    const Session first = Drive("close frmHome\n", {"--settings", ini});
+    const QStringList args{"--settings", dir.filePath("tavrin.ini")};
+    const QByteArray settings = "click frmHome.mnuSettings\n";
+    const QByteArray spin = "spin frmSettings.UpDown1 ";
+    // From 4: down, up, up, so that each step moves one place its own way.
+    const auto first = Drive(settings + spin + "down\n" + spin + "up\n" + spin + "up\n" +
+                                 "click frmSettings.Command1\nclose frmHome\nshow frmHome\n",
+                             args);
     EXPECT_EQ(first.exitCode, 0);
-    EXPECT_EQ(first.lines, QStringList({"{\"event\": \"end\"}"}));
-    QFile file(ini);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QString stored = QString::fromUtf8(file.readAll());
-    EXPECT_TRUE(stored.contains("[Xpos]\nXpos=3420")) << stored.toStdString();
-    EXPECT_TRUE(stored.contains("[Ypos]\nYpos=5000")) << stored.toStdString();
-}
+    EXPECT_EQ(first.lines, QStringList(R"({"event": "end"})"));
+    const auto second = Drive(settings + "show frmSettings.Text1\n", args);
+    EXPECT_EQ(Json(second.lines.value(0))["text"].toString(), "5");
 
-TEST(Drive, ABadStoredSettingEndsAtStart) {
-    QTemporaryDir dir;
-    const QString ini = dir.filePath("tavrin.ini");
-    QFile file(ini);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("[Reg]\nDecPlace=many\n");
-    file.close();
-    const Session s = Drive("show frmHome\n", {"--settings", ini});
-    EXPECT_EQ(s.exitCode, 3);
-    EXPECT_EQ(s.lines, QStringList({"{\"event\": \"fatal\", \"text\": \"Run-time error "
-                                    "'13':\\r\\n\\r\\nType mismatch\"}"}));
+    QFile bad(dir.filePath("bad.ini"));
+    ASSERT_TRUE(bad.open(QIODevice::WriteOnly) && bad.write("[Reg]\nDecPlace=many\n") > 0);
+    bad.close();
+    const auto start = Drive("show frmHome\n", {"--settings", bad.fileName()});
+    EXPECT_EQ(start.exitCode, 3) << "a bad stored setting ends the run at start";
+    EXPECT_TRUE(start.lines.size() == 1 && start.lines[0].startsWith(R"({"event": "fatal")"));
 }
 
 }  // namespace

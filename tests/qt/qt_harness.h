@@ -11,19 +11,17 @@
 
 namespace tavrin::testing {
 
-// The Qt display with its boxes intercepted, so that nothing blocks.
+// The Qt display with its boxes taken down as "kind: text" lines instead of
+// shown, so that nothing blocks; every question is answered No.
 class InterceptingUi : public QtUi {
   public:
-    QStringList messages;
-    QStringList questions;
-    QStringList fatals;
-    bool answerYes = false;
-    void message(const QString&, const QString& text) override { messages << text; }
+    QStringList boxes;
+    void message(const QString&, const QString& text) override { boxes << "message: " + text; }
     bool question(const QString&, const QString& text) override {
-        questions << text;
-        return answerYes;
+        boxes << "question: " + text;
+        return false;
     }
-    void fatal(const QString&, const QString& text) override { fatals << text; }
+    void fatal(const QString&, const QString& text) override { boxes << "fatal: " + text; }
 };
 
 // The real Qt windows over the logic, offscreen, started without the splash.
@@ -35,6 +33,12 @@ struct QtHarness {
         ui.setApp(&app);
         app.splashEnabled = false;
         app.start();
+    }
+    // Otherwise the views outlive the windows, and a late event reaches a dead one.
+    ~QtHarness() {
+        for (Form* f : app.loadedForms()) {
+            delete ui.viewOf(*f);
+        }
     }
     FormView* view(const QString& name) {
         Form* f = app.find(name);
