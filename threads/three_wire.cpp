@@ -148,11 +148,15 @@ bool WireFits(int form, Real workingWire, Real tpi) {
     return !(workingWire < limits.smallest || workingWire > limits.largest);
 }
 
-QString ThreeWireAnswer(int form, int find, Real workingWire, Real known, Real tpi, int decPlace) {
+Real ThreeWireFigure(int form, int find, Real workingWire, Real known, Real tpi) {
     if (WorksInMillimetres(form)) {
         known = known * 25.4;
     }
-    const Real v = RoundTo(Formula(form, find, workingWire, known, tpi), decPlace);
+    return Formula(form, find, workingWire, known, tpi);
+}
+
+QString ThreeWireAnswer(int form, int find, Real figure, int decPlace) {
+    const Real v = RoundTo(figure, decPlace);
     const QString text = NumToStr(v);
     if (WorksInMillimetres(form)) {
         // The inch line still comes first; the bracket always holds millimetres.
@@ -162,7 +166,7 @@ QString ThreeWireAnswer(int form, int find, Real workingWire, Real known, Real t
     return AnswerLabel(find) + text + "\r\n [" + NumToStr(RoundTo(ValOf(text) * 25.4, 4)) + " mm]";
 }
 
-QString BestWireText(int form, Real t) {
+WireSizes BestWires(int form, Real t) {
     Real best;
     Real smallest;
     Real largest;
@@ -189,12 +193,16 @@ QString BestWireText(int form, Real t) {
             best = 0.57735 / t, smallest = 0.56 / t, largest = 0.9 / t;
             break;
     }
-    return "Best wire size is " + InchAndMillimetres(best) + "\r\n" + "Largest wire size is " +
-           InchAndMillimetres(largest) + "\r\n" + "Smallest wire size is " +
-           InchAndMillimetres(smallest);
+    return {best, smallest, largest};
 }
 
-QString ThreadDepthText(int form, Real t) {
+QString BestWireText(const WireSizes& sizes) {
+    return "Best wire size is " + InchAndMillimetres(sizes.best) + "\r\n" +
+           "Largest wire size is " + InchAndMillimetres(sizes.largest) + "\r\n" +
+           "Smallest wire size is " + InchAndMillimetres(sizes.smallest);
+}
+
+Real SingleThreadDepth(int form, Real t) {
     Real d;
     switch (form) {
         case Whitworth:
@@ -216,6 +224,10 @@ QString ThreadDepthText(int form, Real t) {
             d = 0.61343 / t;
             break;
     }
+    return d;
+}
+
+QString ThreadDepthText(Real d) {
     return "Single depth of thread= " + NumToStr(RoundTo(d, 5)) + "\r\n [" +
            NumToStr(RoundTo(d * 25.4, 5)) + " mm]";
 }
@@ -247,8 +259,9 @@ void Calculate(Form& f) {
             return;
         }
     }
-    f.setText("txtTWans", ThreeWireAnswer(form, f.listIndex("popFindThd"), w, entry.known,
-                                          entry.tpi, f.app().decPlace));
+    const int find = f.listIndex("popFindThd");
+    const Real figure = ThreeWireFigure(form, find, w, entry.known, entry.tpi);
+    f.setText("txtTWans", ThreeWireAnswer(form, find, figure, f.app().decPlace));
 }
 
 void BestWire(Form& f) {
@@ -258,7 +271,7 @@ void BestWire(Form& f) {
     }
     const Real t =
         ThreadsPerInch(ValOf(f.text("txtTPI")), f.value("chkTWMet"), f.value("chkPitch"));
-    ProgramMessage(f, BestWireText(f.listIndex("popTypThd"), t));
+    ProgramMessage(f, BestWireText(BestWires(f.listIndex("popTypThd"), t)));
 }
 
 void ThreadDepth(Form& f) {
@@ -268,7 +281,7 @@ void ThreadDepth(Form& f) {
     }
     const Real t =
         ThreadsPerInch(ValOf(f.text("txtTPI")), f.value("chkTWMet"), f.value("chkPitch"));
-    ProgramMessage(f, ThreadDepthText(f.listIndex("popTypThd"), t));
+    ProgramMessage(f, ThreadDepthText(SingleThreadDepth(f.listIndex("popTypThd"), t)));
 }
 
 // The caption of the known size follows what is sought.

@@ -27,14 +27,24 @@ Real WorkingWire(int form, Real wire);
 // Whether a working wire lies within its form's limits; a wire on a limit does.
 bool WireFits(int form, Real workingWire, Real tpi);
 
-// The two answer lines: the measurement over wires (find 0), the pitch
-// diameter (1) or the basic measurement over wires (2), from the known size,
-// with its millimetres in brackets.
-QString ThreeWireAnswer(int form, int find, Real workingWire, Real known, Real tpi, int decPlace);
+// The measurement over wires (find 0), the pitch diameter (1) or the basic
+// measurement over wires (2) from the known size, in the form's units.
+Real ThreeWireFigure(int form, int find, Real workingWire, Real known, Real tpi);
+// Its two answer lines: inches first, then millimetres in brackets.
+QString ThreeWireAnswer(int form, int find, Real figure, int decPlace);
 
-// The best, largest and smallest wire, in inches and millimetres to five places.
-QString BestWireText(int form, Real tpi);
-// The single depth of thread, in inches and millimetres to five places.
-QString ThreadDepthText(int form, Real tpi);
+// The wires a thread takes, in inches.
+struct WireSizes {
+    Real best;
+    Real smallest;
+    Real largest;
+};
+WireSizes BestWires(int form, Real tpi);
+// Best, largest and smallest, in inches and millimetres to five places.
+QString BestWireText(const WireSizes& sizes);
+
+// The single depth of thread in inches, and its message to five places.
+Real SingleThreadDepth(int form, Real tpi);
+QString ThreadDepthText(Real depth);
 
 }  // namespace tavrin
