@@ -37,18 +37,18 @@ const char* const kNearMinimum = "Ball diameter is less than 10% over absolute m
 TEST(BallDrop, CalculateRows) {
     const Row rows[] = {
         {1, "45", ".5", ".625", ".25", "", "", kDrop},
-        {0, "45", ".5", ".1", ".5", "", "",  // a thru hole as large as the ball passes
-         "SC Dia.=  1.0071\r\nBest Ball=  .4172\r\nX Tan=  .3536\r\nY Tan= -.3268\r\nTIP= -.15"},
+        {0, "30", ".5", ".1", ".5", "", "",  // a thru hole as large as the ball passes
+         "SC Dia.=  .7506\r\nBest Ball=  .4333\r\nX Tan=  .433\r\nY Tan= -.275\r\nTIP= -.15"},
         {2, "45", ".5", ".625", ".25", ".2", "",
          "Hole Depth= -.0911\r\nBest Ball=  .2589\r\nX Tan=  .3536\r\nY Tan= -.2268\r\nTIP= "
          "-.2665"},
         {2, "45", ".5", ".625", ".25", ".3", "Error, invalid drop value.", ""},
-        {4, "45", ".5", ".5", ".25", ".2", "",
-         "Angle Length=  .2786\r\nS/C Dia.=  .8071\r\nBest Ball=  .3343\r\nX Tan=  .3536\r\n"
-         "Y Tan= -.2268\r\nTIP= -.2665"},
-        {4, "45", ".5", ".2", ".25", ".2",
-         "Error, Invalid input or oversize.\r\nLength=  .2786\r\nMax S/C Dia.=  .65\r\n"
-         "S/C Dia. is=  .8071",
+        {4, "30", ".5", ".5", ".25", ".2", "",
+         "Angle Length=  .3335\r\nS/C Dia.=  .6351\r\nBest Ball=  .3667\r\nX Tan=  .433\r\n"
+         "Y Tan= -.175\r\nTIP= -.2665"},
+        {4, "30", ".5", ".3", ".25", ".2",
+         "Error, Invalid input or oversize.\r\nLength=  .3335\r\nMax S/C Dia.=  .5964\r\n"
+         "S/C Dia. is=  .6351",
          ""},
         // one step short of the angle's own length, yet its sharp corner fits exactly
         {4, "45", ".5", "0.3035533905932738", ".2", ".2", "Angle length is oversize.",

@@ -18,13 +18,11 @@ Three Values(Real a, Real b, Real c) {
 TEST(ThreeWireSolver, EntryInInches) {
     EXPECT_EQ(ThreadsPerInch(20, true, false).value(), 0.7874000000000001);  // even a count
     EXPECT_EQ(ThreadsPerInch(.05, false, true).value(), 20);                 // a pitch inverted
-    const WireEntry metric = WireEntryInInches(.8, 6, 1.5, true, true);  // scaled, then inverted
-    EXPECT_EQ(Values(metric.wire, metric.known, metric.tpi),
-              (Three{0.031496, 0.23622, 16.93336720006773}));
+    const WireEntry m = WireEntryInInches(.8, 6, 1.5, true, true);  // scaled, then inverted
+    EXPECT_EQ(Values(m.wire, m.known, m.tpi), (Three{0.031496, 0.23622, 16.93336720006773}));
 }
 
-// One known size read as the pitch diameter, the measurement over wires and the major
-// diameter; Loewenherz and British Association take the wire in millimetres.
+// One known size for the three sought sizes; Loewenherz and BA take the wire in mm.
 TEST(ThreeWireSolver, EachFormAndSoughtSizeHasItsFormula) {
     const struct {
         int form;
@@ -50,25 +48,29 @@ TEST(ThreeWireSolver, EachFormAndSoughtSizeHasItsFormula) {
 TEST(ThreeWireSolver, AnswerLines) {
     EXPECT_EQ(ThreeWireAnswer(Ansu, 2, 0.2702225, 4), "Basic Meas O/W=  .2702\r\n [ 6.8631 mm]");
     EXPECT_EQ(ThreeWireAnswer(Ansu, 0, .2701985, 2), "Over Wire=  .27\r\n [ 6.858 mm]");
-    EXPECT_EQ(ThreeWireAnswer(Loewenherz, 1, 5.0068318, 6),
-              "Pitch Dia.=  .1971\r\n [ 5.006832 mm]");
+    EXPECT_EQ(ThreeWireAnswer(Loewenherz, 1, 5.00683, 6), "Pitch Dia.=  .1971\r\n [ 5.00683 mm]");
 }
 
-// Wires just inside the smallest and just above the largest (mm for Loewenherz and BA).
+// Wires below, on and just above the smallest, on or just below the largest, and above it
+// (mm for Loewenherz and BA): the first and the last do not fit.
 TEST(ThreeWireSolver, WireLimits) {
-    EXPECT_FALSE(WireFits(Ansu, .028, 20));  // 0.56 / 20 lies above .028 in doubles
-    EXPECT_TRUE(WireFits(Ansu, 0.028000000000000004, 20) && WireFits(Ansu, .045, 20));  // on them
     const struct {
         int form;
-        double tpi, inside, outside;
+        double tpi;
+        std::array<double, 5> wires;
     } rows[] = {
-        {Ansu, 20, .0281, .0451},          {Whitworth, 16, .034, .048},
-        {Acme, 8, .0609079, .0812517},     {Loewenherz, 20, .68677, 1.24242},
-        {BritishAssoc, 20, .63313, .9257},
+        {Ansu, 20, {.028, 0.028000000000000004, .0281, .045, .0451}},  // .028 is below 0.56 / 20
+        {Whitworth, 16, {.0337, .03375, .034, .0475, .048}},
+        {Acme, 8, {.0609, .060907875, .0609079, .0812516, .0812517}},
+        {Loewenherz, 20, {.68, 0.6867652000000001, .68677, 1.2424, 1.24242}},
+        {BritishAssoc, 20, {.63, .6331204, .63313, .92569, .9257}},
     };
     for (const auto& r : rows) {
-        EXPECT_TRUE(WireFits(r.form, r.inside, r.tpi)) << r.form;
-        EXPECT_FALSE(WireFits(r.form, r.outside, r.tpi)) << r.form;
+        QString fits;
+        for (double w : r.wires) {
+            fits += WireFits(r.form, w, r.tpi) ? 'y' : 'n';
+        }
+        EXPECT_EQ(fits, "nyyyn") << r.form;
     }
 }
 
@@ -96,9 +98,8 @@ TEST(ThreeWireSolver, BestWiresAndDepth) {
 struct Row {
     const char* choices;  // selections and check boxes, before the fields are typed
     const char *tpi, *wire, *known;
-    char yes;            // 'y' or 'n' to the wire question, if it comes
-    const char* box;     // the last box shown, or empty
-    const char* answer;  // "earlier" where the answer box keeps its text
+    char yes;                  // 'y' or 'n' to the wire question, if it comes
+    const char *box, *answer;  // the last box shown; "earlier" where the answer box keeps its text
 };
 
 const char* const kAsk = "You have entered an invalid wire size for the data entered, continue?";
