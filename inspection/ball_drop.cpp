@@ -2,6 +2,8 @@
 // from the face, turned into sharp corner, drop, hole depth, chamfer and
 // angle length.
 
+#include "inspection/ball_drop.h"
+
 #include "frame/angles.h"
 #include "frame/app.h"
 #include "frame/form.h"
@@ -18,22 +20,28 @@ enum Mode { SharpCorner, BallDrop, HoleDepth, Chamfer, AngleLength };
 
 const QString kLineEnd = QStringLiteral("\r\n");
 
-QString Num(const Form& f, Real value) {
-    return NumToStr(RoundTo(value, f.app().decPlace));
+QString Num(Real value, int decPlace) {
+    return NumToStr(RoundTo(value, decPlace));
 }
 
-// The ball of radius r resting in the cone of angle a whose face diameter is
-// x: heights are from the face, positive above it.
-struct Seat {
-    Real drop;  // top of the ball above the face
-    Real best;  // the ball that stands flush
-    Real ytan;  // height of the circle of tangency
-    Real xtan;  // diameter of that circle
-    Real tip;   // height where the ball crosses the thru hole
-};
+Real SharpCornerFromDrop(Real a, Real r, Real drop) {
+    return (CosDeg(a) * r + TanDeg(a) * (SinDeg(a) * r + (r - drop))) * 2;
+}
 
-Seat SolveSeat(Real a, Real r, Real x, Real t) {
-    Seat s;
+QString TipText(Real t, Real tip, int decPlace) {
+    return t > 0 ? Num(tip, decPlace) : QStringLiteral("No thru hole entered.");
+}
+
+QString SeatLines(const BallSeat& s, Real t, int decPlace) {
+    return "Best Ball= " + Num(s.best, decPlace) + kLineEnd + "X Tan= " + Num(s.xtan, decPlace) +
+           kLineEnd + "Y Tan= " + Num(s.ytan, decPlace) + kLineEnd +
+           "TIP= " + TipText(t, s.tip, decPlace);
+}
+
+}  // namespace
+
+BallSeat SolveSeat(Real a, Real r, Real x, Real t) {
+    BallSeat s;
     const Real h = x / TanDeg(a) / 2;
     s.drop = r / SinDeg(a) - h + r;
     const Real g = (x / 2) / SinDeg(a);
@@ -44,31 +52,17 @@ Seat SolveSeat(Real a, Real r, Real x, Real t) {
     return s;
 }
 
-Real SharpCornerFromDrop(Real a, Real r, Real drop) {
-    return (CosDeg(a) * r + TanDeg(a) * (SinDeg(a) * r + (r - drop))) * 2;
-}
-
-QString TipText(const Form& f, Real t, Real tip) {
-    return t > 0 ? Num(f, tip) : QStringLiteral("No thru hole entered.");
-}
-
-QString SeatLines(const Form& f, const Seat& s, Real t) {
-    return "Best Ball= " + Num(f, s.best) + kLineEnd + "X Tan= " + Num(f, s.xtan) + kLineEnd +
-           "Y Tan= " + Num(f, s.ytan) + kLineEnd + "TIP= " + TipText(f, t, s.tip);
-}
-
-// Modes 1 to 3: x is the drop in mode 1, the diameter at the face otherwise.
-QString BallSeatSolve(Form& f, Real a, Real b, Real x, Real t, Real d, int mode) {
+std::optional<QString> BallSeatAnswer(Real a, Real b, Real x, Real t, Real d, int mode,
+                                      int decPlace) {
     const Real r = b / 2;
     if (mode == 1) {
         x = SharpCornerFromDrop(a, r, x);
     }
-    Seat s = SolveSeat(a, r, x, t);
+    BallSeat s = SolveSeat(a, r, x, t);
     Real shift = 0;
     if (mode == 3) {
         if (s.drop < d) {
-            ProgramMessage(f, "Error, invalid drop value.");
-            return QString();
+            return std::nullopt;
         }
         // The hole's diameter lies below the face the ball was read from.
         shift = s.drop - d;
@@ -78,69 +72,87 @@ QString BallSeatSolve(Form& f, Real a, Real b, Real x, Real t, Real d, int mode)
     QString first;
     switch (mode) {
         case 1:
-            first = "SC Dia.= " + Num(f, x);
+            first = "SC Dia.= " + Num(x, decPlace);
             break;
         case 2:
-            first = "Ball Drop= " + Num(f, s.drop);
+            first = "Ball Drop= " + Num(s.drop, decPlace);
             break;
         default:
-            first = "Hole Depth= " + Num(f, -shift);
+            first = "Hole Depth= " + Num(-shift, decPlace);
             break;
     }
-    return first + kLineEnd + SeatLines(f, s, t);
+    return first + kLineEnd + SeatLines(s, t, decPlace);
 }
 
-QString AngleLengthSolve(Form& f, Real a, Real b, Real x, Real t, Real l) {
-    const Real r = b / 2;
-    const Real sc = SharpCornerFromDrop(a, r, x);
-    const Real w = (sc - t) / 2;
-    const Real len = w / TanDeg(a);
-    const Real maxsc = 2 * (TanDeg(a) * l) + t;
-    if (maxsc < sc) {
-        // Four places here, whatever DecPlace says.
-        ProgramMessage(f, "Error, Invalid input or oversize." + kLineEnd +
-                              "Length= " + NumToStr(RoundTo(len, 4)) + kLineEnd +
-                              "Max S/C Dia.= " + NumToStr(RoundTo(maxsc, 4)) + kLineEnd +
-                              "S/C Dia. is= " + NumToStr(RoundTo(sc, 4)));
-        return QString();
-    }
-    const Seat s = SolveSeat(a, r, sc, t);
-    if (len > l) {
-        ProgramMessage(f, "Angle length is oversize.");
+AngleLengthFigures SolveAngleLength(Real a, Real b, Real x, Real t, Real l) {
+    AngleLengthFigures found;
+    found.r = b / 2;
+    found.sc = SharpCornerFromDrop(a, found.r, x);
+    const Real w = (found.sc - t) / 2;
+    found.len = w / TanDeg(a);
+    found.maxsc = 2 * (TanDeg(a) * l) + t;
+    return found;
+}
+
+QString AngleLengthOversize(const AngleLengthFigures& found) {
+    // Four places here, whatever DecPlace says.
+    return "Error, Invalid input or oversize." + kLineEnd +
+           "Length= " + NumToStr(RoundTo(found.len, 4)) + kLineEnd +
+           "Max S/C Dia.= " + NumToStr(RoundTo(found.maxsc, 4)) + kLineEnd +
+           "S/C Dia. is= " + NumToStr(RoundTo(found.sc, 4));
+}
+
+QString AngleLengthAnswer(const AngleLengthFigures& found, const BallSeat& seat, Real t, Real l,
+                          int decPlace) {
+    if (found.len > l) {
         return "ERROR!" + kLineEnd + "Oversize or incorrect value." + kLineEnd +
-               "Angle Length= " + Num(f, len);
+               "Angle Length= " + Num(found.len, decPlace);
     }
-    return "Angle Length= " + Num(f, len) + kLineEnd + "S/C Dia.= " + Num(f, sc) + kLineEnd +
-           SeatLines(f, s, t);
+    return "Angle Length= " + Num(found.len, decPlace) + kLineEnd +
+           "S/C Dia.= " + Num(found.sc, decPlace) + kLineEnd + SeatLines(seat, t, decPlace);
+}
+
+ChamferBall CheckChamferBall(Real a, Real m, Real b) {
+    const Real minball = m / CosDeg(a);
+    if (minball + 0.001 > b) {
+        return ChamferBall::TooSmall;
+    }
+    if (PercentOf(minball, 10) + minball > b) {
+        return ChamferBall::NearMinimum;
+    }
+    return ChamferBall::Fine;
 }
 
 // The ball rests on the edge of a chamfer of at most m, dropped d from its top.
-QString ChamferSolve(Form& f, Real a, Real d, Real m, Real b) {
-    const Real minball = m / CosDeg(a);
-    if (minball + 0.001 > b) {
-        ProgramMessage(f, "Error, Invalid ball diameter.");
-        return QString();
-    }
-    if (PercentOf(minball, 10) + minball > b) {
-        ProgramMessage(f, "Ball diameter is less than 10% over absolute minimum.");
-    }
+ChamferFigures SolveChamfer(Real d, Real m, Real b) {
     const Real e = b - d;
     const Real c = Sqr(b * b - 4 * (b / 2 - e) * (b / 2 - e));
     const Real limit = b / 2 - Sqr((b / 2) * (b / 2) - (m / 2) * (m / 2));
-    if (limit < e) {
-        ProgramMessage(f, "Drop value too great, chamfer is oversize.");
-        return "ERROR!" + kLineEnd + "Oversize or incorrect value, check data or part." + kLineEnd +
-               "S\\C Chamfer Dia.= " + Num(f, c);
-    }
-    return "S\\C Chamfer Dia.= " + Num(f, c);
+    return {c, limit < e};
 }
 
-QString ChamferBallLimits(const Form& f, Real a, Real m) {
+QString ChamferAnswer(const ChamferFigures& found, int decPlace) {
+    if (found.oversize) {
+        return "ERROR!" + kLineEnd + "Oversize or incorrect value, check data or part." + kLineEnd +
+               "S\\C Chamfer Dia.= " + Num(found.diameter, decPlace);
+    }
+    return "S\\C Chamfer Dia.= " + Num(found.diameter, decPlace);
+}
+
+QString ChamferBallLimits(Real a, Real m, int decPlace) {
     const Real minimum = m / CosDeg(a);
     // A bare line feed between the two lines, as this message has always had.
-    return "Absolute Min.Ball Dia.= " + Num(f, minimum + 0.001) + "\n" +
-           "Min. recommended ball dia.= " + Num(f, PercentOf(minimum, 10) + minimum);
+    return "Absolute Min.Ball Dia.= " + Num(minimum + 0.001, decPlace) + "\n" +
+           "Min. recommended ball dia.= " + Num(PercentOf(minimum, 10) + minimum, decPlace);
 }
+
+QString AngleLengthBallLimits(Real a, Real l, Real t, int decPlace) {
+    // Along the wall here, with the sine; Calculate goes along the axis.
+    const Real s = 2 * (l * SinDeg(a)) + t;
+    return BallLimits(a, t, s, decPlace);
+}
+
+namespace {
 
 Real FieldValue(const Form& f, const char* name) {
     return ValOf(f.text(name));
@@ -185,6 +197,52 @@ bool Refused(Form& f, int mode) {
     return false;
 }
 
+QString SeatAnswer(Form& f, Real a, Real b, int mode) {
+    const std::optional<QString> answer =
+        BallSeatAnswer(a, b, FieldValue(f, "txtDropOrDia"), FieldValue(f, "txtThruHole"),
+                       FieldValue(f, "txtHoleDepth"), mode + 1, f.app().decPlace);
+    if (!answer) {
+        ProgramMessage(f, "Error, invalid drop value.");
+        return QString();
+    }
+    return *answer;
+}
+
+QString ChamferMode(Form& f, Real a, Real b) {
+    const Real d = FieldValue(f, "txtDropOrDia");
+    const Real m = FieldValue(f, "txtThruHole");
+    switch (CheckChamferBall(a, m, b)) {
+        case ChamferBall::TooSmall:
+            ProgramMessage(f, "Error, Invalid ball diameter.");
+            return QString();
+        case ChamferBall::NearMinimum:
+            ProgramMessage(f, "Ball diameter is less than 10% over absolute minimum.");
+            break;
+        case ChamferBall::Fine:
+            break;
+    }
+    const ChamferFigures found = SolveChamfer(d, m, b);
+    if (found.oversize) {
+        ProgramMessage(f, "Drop value too great, chamfer is oversize.");
+    }
+    return ChamferAnswer(found, f.app().decPlace);
+}
+
+QString AngleLengthMode(Form& f, Real a, Real b) {
+    const Real t = FieldValue(f, "txtThruHole");
+    const Real l = FieldValue(f, "txtDropOrDia");
+    const AngleLengthFigures found = SolveAngleLength(a, b, FieldValue(f, "txtHoleDepth"), t, l);
+    if (found.maxsc < found.sc) {
+        ProgramMessage(f, AngleLengthOversize(found));
+        return QString();
+    }
+    const BallSeat seat = SolveSeat(a, found.r, found.sc, t);
+    if (found.len > l) {
+        ProgramMessage(f, "Angle length is oversize.");
+    }
+    return AngleLengthAnswer(found, seat, t, l, f.app().decPlace);
+}
+
 void Calculate(Form& f) {
     const int mode = f.listIndex("popSelDropOrDia");
     if (Refused(f, mode)) {
@@ -198,17 +256,13 @@ void Calculate(Form& f) {
         case SharpCorner:
         case BallDrop:
         case HoleDepth:
-            answer =
-                BallSeatSolve(f, a, b, FieldValue(f, "txtDropOrDia"), FieldValue(f, "txtThruHole"),
-                              FieldValue(f, "txtHoleDepth"), mode + 1);
+            answer = SeatAnswer(f, a, b, mode);
             break;
         case Chamfer:
-            answer =
-                ChamferSolve(f, a, FieldValue(f, "txtDropOrDia"), FieldValue(f, "txtThruHole"), b);
+            answer = ChamferMode(f, a, b);
             break;
         case AngleLength:
-            answer = AngleLengthSolve(f, a, b, FieldValue(f, "txtHoleDepth"),
-                                      FieldValue(f, "txtThruHole"), FieldValue(f, "txtDropOrDia"));
+            answer = AngleLengthMode(f, a, b);
             break;
         default:
             break;
@@ -219,24 +273,22 @@ void Calculate(Form& f) {
 void BallTolerance(Form& f) {
     const Real a = AngleOf(f);
     const Real t = FieldValue(f, "txtThruHole");
+    const int decPlace = f.app().decPlace;
     switch (f.listIndex("popSelDropOrDia")) {
         case BallDrop:
         case HoleDepth:  // the hole diameter stands for the sharp corner
-            ProgramMessage(f, BallLimits(f, a, t, FieldValue(f, "txtDropOrDia")));
+            ProgramMessage(f, BallLimits(a, t, FieldValue(f, "txtDropOrDia"), decPlace));
             break;
         case Chamfer:
             if (FieldValue(f, "txtAngDrop") <= 0 || t <= 0) {
                 ProgramMessage(f, "Error, angle and max dia must be greater than zero.");
             } else {
-                ProgramMessage(f, ChamferBallLimits(f, a, t));
+                ProgramMessage(f, ChamferBallLimits(a, t, decPlace));
             }
             break;
-        case AngleLength: {
-            // Along the wall here, with the sine; Calculate goes along the axis.
-            const Real s = 2 * (FieldValue(f, "txtDropOrDia") * SinDeg(a)) + t;
-            ProgramMessage(f, BallLimits(f, a, t, s));
+        case AngleLength:
+            ProgramMessage(f, AngleLengthBallLimits(a, FieldValue(f, "txtDropOrDia"), t, decPlace));
             break;
-        }
         default:
             break;
     }

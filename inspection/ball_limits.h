@@ -6,10 +6,8 @@
 
 namespace tavrin {
 
-class Form;
-
 // The smallest and largest ball a countersink of angle a per side takes,
 // from its thru hole t and its sharp corner s: two answer lines.
-QString BallLimits(const Form& f, Real a, Real t, Real s);
+QString BallLimits(Real a, Real t, Real s, int decPlace);
 
 }  // namespace tavrin

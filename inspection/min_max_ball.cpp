@@ -17,8 +17,8 @@ void Calculate(Form& f) {
     const Real a = f.value("chkDMSmin") ? ValOf(DmsTextToDd(f.text("txtAngMinMax")))
                                         : ValOf(f.text("txtAngMinMax"));
     f.setText("txtMMans", "Calculating...");
-    f.setText("txtMMans",
-              BallLimits(f, a, ValOf(f.text("txtThruMinMax")), ValOf(f.text("txtSCMinMax"))));
+    f.setText("txtMMans", BallLimits(a, ValOf(f.text("txtThruMinMax")),
+                                     ValOf(f.text("txtSCMinMax")), f.app().decPlace));
 }
 
 void DmsHint(Form& f) {

@@ -1,6 +1,8 @@
 // Three Wire Check: measurement over wires, pitch diameter and basic
 // measurement for seven thread forms, with best wire sizes and thread depth.
 
+#include "threads/three_wire.h"
+
 #include "frame/angles.h"
 #include "frame/app.h"
 #include "frame/form.h"
@@ -12,8 +14,6 @@ namespace tavrin {
 namespace {
 
 const QChar kOUmlaut(0x00F6);
-
-enum ThreadForm { Ansu, Whitworth, SharpV, Acme, Loewenherz, BritishAssoc, IsoMetric };
 
 // The two forms whose sizes are worked in millimetres.
 bool WorksInMillimetres(int form) {
@@ -28,19 +28,6 @@ QStringList ThreadForms() {
             "L" + QString(kOUmlaut) + "wenherz (53" + QString(kDegreeSign) + " 8')",
             "British Assoc. (47" + QString(kDegreeSign) + " 30')",
             "ISO Metric (60" + QString(kDegreeSign) + ")"};
-}
-
-// Threads per inch as the fields give them: metric input scales the entry,
-// even a count; a pitch is turned into a count.
-Real ThreadsPerInch(const Form& f) {
-    Real t = ValOf(f.text("txtTPI"));
-    if (f.value("chkTWMet")) {
-        t = t * 0.03937;
-    }
-    if (f.value("chkPitch")) {
-        t = 1 / t;
-    }
-    return t;
 }
 
 struct WireLimits {
@@ -123,71 +110,67 @@ QString AnswerLabel(int find) {
     }
 }
 
-void Calculate(Form& f) {
-    if (ValOf(f.text("txtTPI")) == 0 || ValOf(f.text("txtWireSize")) == 0 ||
-        ValOf(f.text("txtPitchOrOverWire")) == 0) {
-        ProgramMessage(f,
-                       "Error, Please fill all three data fields with values greater than zero.");
-        return;
-    }
-    Real w = ValOf(f.text("txtWireSize"));
-    Real s = ValOf(f.text("txtPitchOrOverWire"));
-    Real t = ValOf(f.text("txtTPI"));
-    if (f.value("chkTWMet")) {
-        w = w * 0.03937;
-        s = s * 0.03937;
-        t = t * 0.03937;
-    }
-    if (f.value("chkPitch")) {
-        t = 1 / t;
-    }
-    f.setText("txtTWans", "Calculating...");
-
-    const int form = f.listIndex("popTypThd");
-    const int find = f.listIndex("popFindThd");
-    if (WorksInMillimetres(form)) {
-        w = w * 25.4;
-    }
-    const WireLimits limits = LimitsOf(form, t);
-    if (w < limits.smallest || w > limits.largest) {
-        const bool goOn = f.app().ui().question(
-            "Incorrect wire size",
-            "You have entered an invalid wire size for the data entered, continue?");
-        if (!goOn) {
-            f.setText("txtTWans", QString());
-            return;
-        }
-    }
-    if (WorksInMillimetres(form)) {
-        s = s * 25.4;
-    }
-    const Real v = RoundTo(Formula(form, find, w, s, t), f.app().decPlace);
-    const QString text = NumToStr(v);
-    if (WorksInMillimetres(form)) {
-        // The inch line still comes first; the bracket always holds millimetres.
-        f.setText("txtTWans", AnswerLabel(find) + NumToStr(RoundTo(ValOf(text) * 0.03937, 4)) +
-                                  "\r\n [" + text + " mm]");
-    } else {
-        f.setText("txtTWans", AnswerLabel(find) + text + "\r\n [" +
-                                  NumToStr(RoundTo(ValOf(text) * 25.4, 4)) + " mm]");
-    }
-}
-
 // Inches and millimetres to five places, whatever DecPlace holds.
 QString InchAndMillimetres(Real size) {
     return NumToStr(RoundTo(size, 5)) + " [" + NumToStr(RoundTo(size * 25.4, 5)) + " mm]";
 }
 
-void BestWire(Form& f) {
-    if (ValOf(f.text("txtTPI")) == 0) {
-        ProgramMessage(f, "Error, Pitch value must be greater than zero.");
-        return;
+}  // namespace
+
+Real ThreadsPerInch(Real entry, bool metric, bool pitch) {
+    Real t = entry;
+    if (metric) {
+        t = t * 0.03937;
     }
-    const Real t = ThreadsPerInch(f);
+    if (pitch) {
+        t = 1 / t;
+    }
+    return t;
+}
+
+WireEntry WireEntryInInches(Real wire, Real known, Real tpi, bool metric, bool pitch) {
+    if (metric) {
+        wire = wire * 0.03937;
+        known = known * 0.03937;
+    }
+    return {wire, known, ThreadsPerInch(tpi, metric, pitch)};
+}
+
+Real WorkingWire(int form, Real wire) {
+    if (WorksInMillimetres(form)) {
+        wire = wire * 25.4;
+    }
+    return wire;
+}
+
+bool WireFits(int form, Real workingWire, Real tpi) {
+    const WireLimits limits = LimitsOf(form, tpi);
+    return !(workingWire < limits.smallest || workingWire > limits.largest);
+}
+
+Real ThreeWireFigure(int form, int find, Real workingWire, Real known, Real tpi) {
+    if (WorksInMillimetres(form)) {
+        known = known * 25.4;
+    }
+    return Formula(form, find, workingWire, known, tpi);
+}
+
+QString ThreeWireAnswer(int form, int find, Real figure, int decPlace) {
+    const Real v = RoundTo(figure, decPlace);
+    const QString text = NumToStr(v);
+    if (WorksInMillimetres(form)) {
+        // The inch line still comes first; the bracket always holds millimetres.
+        return AnswerLabel(find) + NumToStr(RoundTo(ValOf(text) * 0.03937, 4)) + "\r\n [" + text +
+               " mm]";
+    }
+    return AnswerLabel(find) + text + "\r\n [" + NumToStr(RoundTo(ValOf(text) * 25.4, 4)) + " mm]";
+}
+
+WireSizes BestWires(int form, Real t) {
     Real best;
     Real smallest;
     Real largest;
-    switch (f.listIndex("popTypThd")) {
+    switch (form) {
         case Whitworth:
             best = 0.56369 / t, smallest = 0.54 / t, largest = 0.76 / t;
             break;
@@ -210,19 +193,18 @@ void BestWire(Form& f) {
             best = 0.57735 / t, smallest = 0.56 / t, largest = 0.9 / t;
             break;
     }
-    ProgramMessage(f, "Best wire size is " + InchAndMillimetres(best) + "\r\n" +
-                          "Largest wire size is " + InchAndMillimetres(largest) + "\r\n" +
-                          "Smallest wire size is " + InchAndMillimetres(smallest));
+    return {best, smallest, largest};
 }
 
-void ThreadDepth(Form& f) {
-    if (ValOf(f.text("txtTPI")) == 0) {
-        ProgramMessage(f, "Error, TPI or Pitch value must be greater than zero.");
-        return;
-    }
-    const Real t = ThreadsPerInch(f);
+QString BestWireText(const WireSizes& sizes) {
+    return "Best wire size is " + InchAndMillimetres(sizes.best) + "\r\n" +
+           "Largest wire size is " + InchAndMillimetres(sizes.largest) + "\r\n" +
+           "Smallest wire size is " + InchAndMillimetres(sizes.smallest);
+}
+
+Real SingleThreadDepth(int form, Real t) {
     Real d;
-    switch (f.listIndex("popTypThd")) {
+    switch (form) {
         case Whitworth:
             d = 0.64033 / t;
             break;
@@ -242,8 +224,64 @@ void ThreadDepth(Form& f) {
             d = 0.61343 / t;
             break;
     }
-    ProgramMessage(f, "Single depth of thread= " + NumToStr(RoundTo(d, 5)) + "\r\n [" +
-                          NumToStr(RoundTo(d * 25.4, 5)) + " mm]");
+    return d;
+}
+
+QString ThreadDepthText(Real d) {
+    return "Single depth of thread= " + NumToStr(RoundTo(d, 5)) + "\r\n [" +
+           NumToStr(RoundTo(d * 25.4, 5)) + " mm]";
+}
+
+namespace {
+
+void Calculate(Form& f) {
+    if (ValOf(f.text("txtTPI")) == 0 || ValOf(f.text("txtWireSize")) == 0 ||
+        ValOf(f.text("txtPitchOrOverWire")) == 0) {
+        ProgramMessage(f,
+                       "Error, Please fill all three data fields with values greater than zero.");
+        return;
+    }
+    const Real wire = ValOf(f.text("txtWireSize"));
+    const Real known = ValOf(f.text("txtPitchOrOverWire"));
+    const Real tpi = ValOf(f.text("txtTPI"));
+    const WireEntry entry =
+        WireEntryInInches(wire, known, tpi, f.value("chkTWMet"), f.value("chkPitch"));
+    f.setText("txtTWans", "Calculating...");
+
+    const int form = f.listIndex("popTypThd");
+    const Real w = WorkingWire(form, entry.wire);
+    if (!WireFits(form, w, entry.tpi)) {
+        const bool goOn = f.app().ui().question(
+            "Incorrect wire size",
+            "You have entered an invalid wire size for the data entered, continue?");
+        if (!goOn) {
+            f.setText("txtTWans", QString());
+            return;
+        }
+    }
+    const int find = f.listIndex("popFindThd");
+    const Real figure = ThreeWireFigure(form, find, w, entry.known, entry.tpi);
+    f.setText("txtTWans", ThreeWireAnswer(form, find, figure, f.app().decPlace));
+}
+
+void BestWire(Form& f) {
+    if (ValOf(f.text("txtTPI")) == 0) {
+        ProgramMessage(f, "Error, Pitch value must be greater than zero.");
+        return;
+    }
+    const Real t =
+        ThreadsPerInch(ValOf(f.text("txtTPI")), f.value("chkTWMet"), f.value("chkPitch"));
+    ProgramMessage(f, BestWireText(BestWires(f.listIndex("popTypThd"), t)));
+}
+
+void ThreadDepth(Form& f) {
+    if (ValOf(f.text("txtTPI")) == 0) {
+        ProgramMessage(f, "Error, TPI or Pitch value must be greater than zero.");
+        return;
+    }
+    const Real t =
+        ThreadsPerInch(ValOf(f.text("txtTPI")), f.value("chkTWMet"), f.value("chkPitch"));
+    ProgramMessage(f, ThreadDepthText(SingleThreadDepth(f.listIndex("popTypThd"), t)));
 }
 
 // The caption of the known size follows what is sought.

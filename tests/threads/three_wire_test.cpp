@@ -1,230 +1,175 @@
 #include <gtest/gtest.h>
 
-#include <optional>
+#include <array>
 
-#include "tests/support/drive_session.h"
 #include "tests/support/fake_ui.h"
+#include "threads/three_wire.h"
 
+// Expected figures are worked in doubles, step by step, apart from the code.
 namespace tavrin {
 namespace {
 
-using testing::Harness;
+using Three = std::array<double, 3>;
 
-struct WireCase {
-    int form;
-    int find;
-    const char* tpi;
-    const char* wire;
-    const char* known;
-    bool metric;
-    bool pitch;
-    const char* answer;
+Three Values(Real a, Real b, Real c) {
+    return {a.value(), b.value(), c.value()};
+}
+
+TEST(ThreeWireSolver, EntryInInches) {
+    EXPECT_EQ(ThreadsPerInch(20, true, false).value(), 0.7874000000000001);  // even a count
+    EXPECT_EQ(ThreadsPerInch(.05, false, true).value(), 20);                 // a pitch inverted
+    const WireEntry m = WireEntryInInches(.8, 6, 1.5, true, true);  // scaled, then inverted
+    EXPECT_EQ(Values(m.wire, m.known, m.tpi), (Three{0.031496, 0.23622, 16.93336720006773}));
+}
+
+// One known size for the three sought sizes; Loewenherz and BA take the wire in mm.
+TEST(ThreeWireSolver, EachFormAndSoughtSizeHasItsFormula) {
+    const struct {
+        int form;
+        double w, s, t;
+        Three figures;
+    } rows[] = {
+        {Ansu, .032, .25, 20, {0.3026985, 0.1973015, 0.27022250000000003}},
+        {Whitworth, .036, .375, 16, {0.428933855, 0.321066145, 0.38891323}},
+        {SharpV, .058, .5, 10, {0.5873970000000001, 0.412603, 0.500795}},  // 1.73205, not 1.51555
+        {Acme, .065, 1, 8, {1.082933875, 0.9170661250000001, 1.0204360000000001}},
+        {Loewenherz, .762, .25, 20, {7.54578628, 5.1542137199999996, 6.593286279999999}},
+        {BritishAssoc, .8, .25, 20, {7.6931682, 5.0068318, 6.9311682}},
+        {IsoMetric, .036, .4375, 16, {0.49137312499999997, 0.38362687500000003, 0.450778125}},
+    };
+    for (const auto& r : rows) {
+        for (int find = 0; find < 3; ++find) {
+            EXPECT_EQ(ThreeWireFigure(r.form, find, r.w, r.s, r.t).value(), r.figures[find])
+                << find;
+        }
+    }
+}
+
+TEST(ThreeWireSolver, AnswerLines) {
+    EXPECT_EQ(ThreeWireAnswer(Ansu, 2, 0.2702225, 4), "Basic Meas O/W=  .2702\r\n [ 6.8631 mm]");
+    EXPECT_EQ(ThreeWireAnswer(Ansu, 0, .2701985, 2), "Over Wire=  .27\r\n [ 6.858 mm]");
+    EXPECT_EQ(ThreeWireAnswer(Loewenherz, 1, 5.00683, 6), "Pitch Dia.=  .1971\r\n [ 5.00683 mm]");
+}
+
+// Wires below, on and just above the smallest, on or just below the largest, and above it
+// (mm for Loewenherz and BA): the first and the last do not fit.
+TEST(ThreeWireSolver, WireLimits) {
+    const struct {
+        int form;
+        double tpi;
+        std::array<double, 5> wires;
+    } rows[] = {
+        {Ansu, 20, {.028, 0.028000000000000004, .0281, .045, .0451}},  // .028 is below 0.56 / 20
+        {Whitworth, 16, {.0337, .03375, .034, .0475, .048}},
+        {Acme, 8, {.0609, .060907875, .0609079, .0812516, .0812517}},
+        {Loewenherz, 20, {.68, 0.6867652000000001, .68677, 1.2424, 1.24242}},
+        {BritishAssoc, 20, {.63, .6331204, .63313, .92569, .9257}},
+    };
+    for (const auto& r : rows) {
+        QString fits;
+        for (double w : r.wires) {
+            fits += WireFits(r.form, w, r.tpi) ? 'y' : 'n';
+        }
+        EXPECT_EQ(fits, "nyyyn") << r.form;
+    }
+}
+
+// The depth, and the best, smallest and largest wire, in inches.
+TEST(ThreeWireSolver, BestWiresAndDepth) {
+    const struct {
+        int form;
+        double tpi, depth;
+        Three wires;
+    } rows[] = {
+        {Ansu, 20, 0.0306715, {0.0288675, 0.028000000000000004, 0.045}},
+        {Whitworth, 16, 0.040020625, {0.035230625, 0.03375, 0.0475}},
+        {SharpV, 10, 0.08660253999999999, {0.057735, 0.05600000000000001, 0.09}},
+        {Acme, 8, 0.0625, {0.06455625, 0.060907875, 0.081251625}},
+        {Loewenherz, 4, 0.189499621, {0.13975472048999998, 0.13518972962, 0.24456951086}},
+        {BritishAssoc, 4, 0.14999969999999999, {0.136562226875, 0.12462975074, 0.182222135555}},
+    };
+    for (const auto& r : rows) {
+        const WireSizes sizes = BestWires(r.form, r.tpi);
+        EXPECT_EQ(Values(sizes.best, sizes.smallest, sizes.largest), r.wires) << r.form;
+        EXPECT_EQ(SingleThreadDepth(r.form, r.tpi).value(), r.depth) << r.form;
+    }
+}
+
+struct Row {
+    const char* choices;  // selections and check boxes, before the fields are typed
+    const char *tpi, *wire, *known;
+    char yes;                  // 'y' or 'n' to the wire question, if it comes
+    const char *box, *answer;  // the last box shown; "earlier" where the answer box keeps its text
 };
 
-void Fill(Harness& h, Form& f, const WireCase& c) {
-    h.app.userSelect(f, "popTypThd", c.form);
-    h.app.userSelect(f, "popFindThd", c.find);
-    if (c.metric) {
-        h.click(f, "chkTWMet");
-    }
-    if (c.pitch) {
-        h.click(f, "chkPitch");
-    }
-    h.set(f, "txtTPI", c.tpi);
-    h.set(f, "txtWireSize", c.wire);
-    h.set(f, "txtPitchOrOverWire", c.known);
-}
+const char* const kAsk = "You have entered an invalid wire size for the data entered, continue?";
 
-class ThreeWireAnswers : public ::testing::TestWithParam<WireCase> {};
-
-TEST_P(ThreeWireAnswers, WritesInchLineAndMillimetreBracket) {
-    const WireCase& c = GetParam();
-    Harness h;
-    Form& f = h.open("frmThreeWire");
-    Fill(h, f, c);
-    h.click(f, "Command1");
-    EXPECT_TRUE(h.ui.questions.empty());
-    EXPECT_TRUE(h.ui.messages.empty());
-    EXPECT_EQ(f.text("txtTWans"), QString::fromLatin1(c.answer));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    OneCasePerForm, ThreeWireAnswers,
-    ::testing::Values(
-        WireCase{0, 0, "20", ".032", ".2175", false, false, "Over Wire=  .2702\r\n [ 6.8631 mm]"},
-        // 1/4-20 at its pitch diameter with the best wire: the shop value .2608
-        WireCase{0, 0, "20", ".02887", ".2175", false, false, "Over Wire=  .2608\r\n [ 6.6243 mm]"},
-        WireCase{1, 1, "16", ".0360", ".4000", false, false, "Pitch Dia.=  .3461\r\n [ 8.7909 mm]"},
-        WireCase{2, 2, "10", ".058", ".5", false, false,
-                 "Basic Meas O/W=  .5008\r\n [ 12.7203 mm]"},
-        WireCase{3, 0, "8", ".065", ".9", false, false, "Over Wire=  .9829\r\n [ 24.9657 mm]"},
-        // the metric-based forms work in millimetres; the inch line still leads
-        WireCase{4, 0, "20", ".03", ".2", false, false, "Over Wire=  .2471\r\n [ 6.2758 mm]"},
-        WireCase{5, 1, "1.5", ".8", "6", true, true, "Pitch Dia.=  .1936\r\n [ 4.9182 mm]"},
-        WireCase{6, 1, "1.5", ".9", "10.5", true, true, "Pitch Dia.=  .3582\r\n [ 9.0983 mm]"}));
-
-TEST(ThreeWire, LoadFillsTheFormsAndCaptions) {
-    Harness h;
-    Form& f = h.open("frmThreeWire");
-    EXPECT_EQ(f.control("popTypThd").items,
-              QStringList({QStringLiteral("ANSU (60°)"), QStringLiteral("Whitworth (55°)"),
-                           QStringLiteral("Sharp V (60°)"), QStringLiteral("Acme (29°)"),
-                           QStringLiteral("Löwenherz (53° 8')"),
-                           QStringLiteral("British Assoc. (47° 30')"),
-                           QStringLiteral("ISO Metric (60°)")}));
-    EXPECT_EQ(f.listIndex("popTypThd"), 0);
-    EXPECT_EQ(f.listIndex("popFindThd"), 1);
-    EXPECT_EQ(f.caption("txtMultiThd"), "Meas. Over Wires");
-    const std::vector<std::pair<int, QString>> captions{
-        {0, "Pitch Dia."}, {2, "Major Dia."}, {1, "Meas. Over Wires"}};
-    for (const auto& [find, caption] : captions) {
-        h.app.userSelect(f, "popFindThd", find);
-        EXPECT_EQ(f.caption("txtMultiThd"), caption);
-    }
-    h.click(f, "chkPitch");
-    EXPECT_EQ(f.caption("Label1571"), "Pitch");
-    h.click(f, "chkPitch");
-    EXPECT_EQ(f.caption("Label1571"), "TPI");
-}
-
-TEST(ThreeWire, AnswerFollowsDecPlaceButTheBracketKeepsFour) {
-    Harness h;
-    h.app.decPlace = 2;
-    Form& f = h.open("frmThreeWire");
-    Fill(h, f, {0, 0, "20", ".032", ".2175", false, false, ""});
-    h.click(f, "Command1");
-    // .27 then .27 * 25.4 = 6.858
-    EXPECT_EQ(f.text("txtTWans"), "Over Wire=  .27\r\n [ 6.858 mm]");
-}
-
-// 0.56 / 20 is 0.028000000000000004 in doubles: a typed .028 lies below it.
-TEST(ThreeWire, AWireOutsideItsLimitsAsksFirst) {
-    struct Step {
-        const char* wire;
-        bool asked;
-        std::optional<bool> yes;
-        const char* answer;
+TEST(ThreeWire, HandlerRows) {
+    // clang-format off
+    const Row rows[] = {
+        // a pitch of .05 is 20 threads; metric input scales a count as well
+        {"chkPitch", ".05", ".032", ".2702", 0, "", "Pitch Dia.=  .2175\r\n [ 5.5245 mm]"},
+        {"popFindThd#0 chkTWMet", "20", "20", "25", 0, "", "Over Wire=  2.2466\r\n [ 57.0636 mm]"},
+        {"popTypThd#4", "20", ".03", ".25", 0, "", "Pitch Dia.=  .2029\r\n [ 5.1542 mm]"},
+        {"popTypThd#5 chkTWMet chkPitch", "1.5", ".8", "6", 0, "",
+         "Pitch Dia.=  .1936\r\n [ 4.9182 mm]"},
+        // only zero is refused, and text counts as zero
+        {"", "20", ".032", "-.2702", 0, "", "Pitch Dia.= -.3229\r\n [-8.2017 mm]"},
+        {"", "20", "abc", ".2175", 0,
+         "Error, Please fill all three data fields with values greater than zero.", "earlier"},
+        {"popFindThd#0", "20", ".028", ".2175", 'n', kAsk, ""},
+        {"popFindThd#0", "20", ".028", ".2175", 'y', kAsk, "Over Wire=  .2582\r\n [ 6.5583 mm]"},
+        {"popTypThd#4", "20", "1E308", ".2", 0, "Run-time error '6':\r\n\r\nOverflow",
+         "Calculating..."},
     };
-    const std::vector<Step> steps{
-        {".028", true, false, ""},
-        {".028", true, true, "Over Wire=  .2582\r\n [ 6.5583 mm]"},
-        {".045", false, std::nullopt, "Over Wire=  .3092\r\n [ 7.8537 mm]"},
-        {".0451", true, false, ""},
-    };
-    for (const Step& s : steps) {
-        Harness h;
-        Form& f = h.open("frmThreeWire");
-        Fill(h, f, {0, 0, "20", s.wire, ".2175", false, false, ""});
-        if (s.yes) {
-            h.ui.answers.push_back(*s.yes);
+    // clang-format on
+    for (const Row& row : rows) {
+        testing::Harness h;
+        h.ui.answers.push_back(row.yes == 'y');  // No when no answer is given
+        Form& f = h.run("frmThreeWire", QString(row.choices).split(' ', Qt::SkipEmptyParts));
+        f.setText("txtTWans", "earlier");
+        h.run("frmThreeWire", {QString("txtTPI=") + row.tpi, QString("txtWireSize=") + row.wire,
+                               QString("txtPitchOrOverWire=") + row.known, "Command1"});
+        EXPECT_EQ(h.lastBox(), row.box) << row.choices << " " << row.wire;
+        EXPECT_EQ(f.text("txtTWans"), row.answer) << row.choices << " " << row.wire;
+        if (row.yes != 0) {
+            EXPECT_EQ(h.ui.shown.front().title, "Incorrect wire size");
         }
-        h.click(f, "Command1");
-        ASSERT_EQ(h.ui.questions.size(), s.asked ? 1u : 0u) << s.wire;
-        if (s.asked) {
-            EXPECT_EQ(h.ui.questions[0].title, "Incorrect wire size");
-            EXPECT_EQ(h.ui.questions[0].text,
-                      "You have entered an invalid wire size for the data entered, continue?");
-        }
-        EXPECT_EQ(f.text("txtTWans"), QString::fromLatin1(s.answer)) << s.wire;
     }
 }
 
-TEST(ThreeWire, ZeroFieldsAreRefusedAndTheAnswerStays) {
-    Harness h;
-    Form& f = h.open("frmThreeWire");
-    Fill(h, f, {0, 0, "20", ".032", ".2175", false, false, ""});
-    h.click(f, "Command1");
-    const QString before = f.text("txtTWans");
-    for (const char* field : {"txtTPI", "txtWireSize", "txtPitchOrOverWire"}) {
-        const QString kept = f.text(field);
-        h.set(f, field, "abc");
-        h.click(f, "Command1");
-        h.set(f, field, kept);
-    }
-    EXPECT_EQ(
-        h.ui.messageTexts(),
-        QStringList(3, "Error, Please fill all three data fields with values greater than zero."));
-    EXPECT_EQ(f.text("txtTWans"), before);
-    h.set(f, "txtTPI", "");
-    h.click(f, "Command3");
-    h.click(f, "Command4");
-    EXPECT_EQ(h.ui.messageTexts().mid(3),
-              QStringList({"Error, Pitch value must be greater than zero.",
-                           "Error, TPI or Pitch value must be greater than zero."}));
-}
-
-TEST(ThreeWire, BestWireAndDepthToFivePlaces) {
-    struct Case {
-        int form;
-        const char* tpi;
-        bool metric;
-        bool pitch;
-        const char* best;
-        const char* depth;
-    };
-    const std::vector<Case> cases{
-        {0, "20", false, false,
-         "Best wire size is  .02887 [ .73323 mm]\r\nLargest wire size is  .045 [ 1.143 mm]\r\n"
-         "Smallest wire size is  .028 [ .7112 mm]",
-         "Single depth of thread=  .03067\r\n [ .77906 mm]"},
-        {5, "1.5", true, true,
+TEST(ThreeWire, BestWireAndDepthMessages) {
+    const std::pair<QStringList, const char*> rows[] = {
+        {{"Command3"}, "Error, Pitch value must be greater than zero."},
+        {{"txtTPI=abc", "Command4"}, "Error, TPI or Pitch value must be greater than zero."},
+        {{"popTypThd#5", "chkTWMet", "chkPitch", "txtTPI=1.5", "Command3"},
          "Best wire size is  .03226 [ .81937 mm]\r\nLargest wire size is  .04304 [ 1.09333 mm]\r\n"
-         "Smallest wire size is  .02944 [ .74778 mm]",
-         nullptr},
-        {3, "8", false, false, nullptr, "Single depth of thread=  .0625\r\n [ 1.5875 mm]"},
-        {4, "1.5", true, true, nullptr, "Single depth of thread=  .04476\r\n [ 1.137 mm]"},
+         "Smallest wire size is  .02944 [ .74778 mm]"},
+        {{"popTypThd#4", "chkTWMet", "chkPitch", "txtTPI=1.5", "Command4"},
+         "Single depth of thread=  .04476\r\n [ 1.137 mm]"},
     };
-    for (const Case& c : cases) {
-        Harness h;
-        h.app.decPlace = 1;  // five places stand whatever DecPlace says
-        Form& f = h.open("frmThreeWire");
-        Fill(h, f, {c.form, 1, c.tpi, "", "", c.metric, c.pitch, ""});
-        QStringList expected;
-        if (c.best != nullptr) {
-            h.click(f, "Command3");
-            expected << c.best;
-        }
-        if (c.depth != nullptr) {
-            h.click(f, "Command4");
-            expected << c.depth;
-        }
-        EXPECT_EQ(h.ui.messageTexts(), expected) << c.form;
+    for (const auto& [steps, box] : rows) {
+        testing::Harness h;
+        h.run("frmThreeWire", steps);
+        EXPECT_EQ(h.ui.messageTexts(), QStringList{box}) << steps.join(' ');
     }
 }
 
-TEST(ThreeWire, ClearAllKeepsTheSelections) {
-    Harness h;
-    Form& f = h.open("frmThreeWire");
-    Fill(h, f, {3, 2, "8", ".065", ".9", true, true, ""});
-    h.click(f, "Command2");
-    for (const char* field : {"txtTPI", "txtWireSize", "txtPitchOrOverWire", "txtTWans"}) {
-        EXPECT_EQ(f.text(field), "") << field;
-    }
-    EXPECT_EQ(f.listIndex("popTypThd"), 3);
-    EXPECT_EQ(f.listIndex("popFindThd"), 2);
-    EXPECT_TRUE(f.value("chkTWMet"));
-    EXPECT_TRUE(f.value("chkPitch"));
-}
-
-TEST(ThreeWire, DrivenFromAScript) {
-    const auto s = testing::Drive(
-        "select frmHome.lstSelection 28\n"
-        "select frmThreeWire.popFindThd 0\n"
-        "set frmThreeWire.txtTPI \"20\"\n"
-        "set frmThreeWire.txtWireSize \".028\"\n"
-        "set frmThreeWire.txtPitchOrOverWire \".2175\"\n"
-        "answer yes\n"
-        "click frmThreeWire.Command1\n"
-        "show frmThreeWire.txtTWans\n");
-    EXPECT_EQ(s.exitCode, 0);
-    ASSERT_EQ(s.lines.size(), 2);
-    EXPECT_EQ(
-        s.lines[0],
-        "{\"event\": \"question\", \"title\": \"Incorrect wire size\", \"text\": \"You have "
-        "entered an invalid wire size for the data entered, continue?\", \"answer\": \"yes\"}");
-    EXPECT_EQ(s.lines[1],
-              "{\"control\": \"frmThreeWire.txtTWans\", \"text\": \"Over Wire=  .2582\\r\\n [ "
-              "6.5583 mm]\", \"visible\": true, \"enabled\": true}");
+TEST(ThreeWire, CaptionsFollowTheChoicesAndClearAllKeepsThem) {
+    testing::Harness h;
+    Form& f = h.run("frmThreeWire", {"popFindThd#0"});
+    EXPECT_EQ(f.control("popTypThd").items.value(4) + "|" + f.caption("txtMultiThd"),
+              QStringLiteral("Löwenherz (53° 8')|Pitch Dia."));
+    h.run("frmThreeWire", {"popFindThd#2", "chkPitch"});
+    EXPECT_EQ(f.caption("txtMultiThd") + "|" + f.caption("Label1571"), "Major Dia.|Pitch");
+    h.run("frmThreeWire", {"popFindThd#1", "chkPitch", "popTypThd#3", "chkTWMet"});
+    EXPECT_EQ(f.caption("txtMultiThd") + "|" + f.caption("Label1571"), "Meas. Over Wires|TPI");
+    f.setText("txtTWans", "earlier");
+    h.run("frmThreeWire", {"txtTPI=20", "txtWireSize=.032", "txtPitchOrOverWire=.2", "Command2"});
+    EXPECT_EQ(f.text("txtTPI") + f.text("txtWireSize") + f.text("txtPitchOrOverWire") +
+                  f.text("txtTWans"),
+              "");
+    EXPECT_TRUE(f.listIndex("popTypThd") == 3 && f.value("chkTWMet"));
 }
 
 }  // namespace
