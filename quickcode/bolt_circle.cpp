@@ -31,7 +31,6 @@ std::vector<BoltHole> BoltCircleHoles(Real diameter, Real holes, Real xc, Real y
     const Real step = 360 / holes;
     const std::int16_t n = ToInt16(holes);
     std::vector<BoltHole> list;
-    list.reserve(n > 0 ? static_cast<std::size_t>(n) : 0);
     Real a = startAngle;
     // The count stops at n without stepping past it, so 32767 holes fit.
     for (int i = 1; i <= n; ++i) {
@@ -48,8 +47,9 @@ std::vector<BoltHole> BoltCircleHoles(Real diameter, Real holes, Real xc, Real y
 
 QString BoltCircleList(const std::vector<BoltHole>& holes, bool noNumbers) {
     QString list;
-    for (int i = 1; i <= static_cast<int>(holes.size()); ++i) {
-        const BoltHole& hole = holes[static_cast<std::size_t>(i - 1)];
+    int i = 0;
+    for (const BoltHole& hole : holes) {
+        ++i;
         if (noNumbers) {
             list += u'X' + Fmt(hole.x) + u'Y' + Fmt(hole.y) + kCrLf;
         } else {
