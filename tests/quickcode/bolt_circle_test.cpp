@@ -17,7 +17,6 @@ struct HoleRow {
 
 TEST(BoltCircleSolver, HoleRows) {
     const HoleRow rows[] = {
-        {2, 3, 0, 0, 90, 4, 3, 1, -0.866, -0.5, "cosine for X, sine for Y"},
         {2, 4.5, 0, 0, 0, 4, 4, 1, 0.1736, 0.9848, "4.5 holes: four, 80 degrees apart"},
         {2, 5.5, 0, 0, 0, 4, 6, 1, 0.4154, 0.9096, "5.5 holes: six, the step keeps the half"},
         {3.5, 6, 1.25, -2, -45, 6, 6, 0, 2.487437, -3.237437, "centre added, six places"},
@@ -79,8 +78,7 @@ TEST(BoltCircle, HandlerRows) {
 }
 
 // A display whose one event pass records what the answer box shows then.
-class WatchingUi : public testing::FakeUi {
-  public:
+struct WatchingUi : testing::FakeUi {
     QStringList seen;
     const Form* form = nullptr;
     void processEvents() override { seen << form->text("Text7"); }

@@ -18,30 +18,37 @@ TEST(ThreadMillSolver, OneWholeProgramPerLayout) {
           "G01 G91 G41 Y0.25", "G03 X-0.25 Y-0.25 Z-0.01563 I0.0 J-0.25", "G02 Z-0.0625 I-0.75",
           "G02 Z-0.0625 I-0.75", "G03 X0.25 Y-0.25 Z-0.01563 I0.25 J0.0", "G01 G40 Y0.25",
           "G00 G90 Z0.1", "X0.0 Y0.0"}},
-        {{1.25, -2.5, .1, .75, .5, .375, .05, 12.5, 0, 1, true},
-         {"N10 G00 G90 X1.25 Y-2.5", "N15 Z0.1", "N20 G00 G91 X0.025", "N25 G01 G90 Z-0.75 F12.5",
-          "N30 G01 G91 G41 Y-0.0375", "N35 G03 X0.0375 Y0.0375 Z0.0125 I0.0 J0.0375",
-          "N40 G03 Z0.05 I-0.0625", "N45 G03 Z0.05 I-0.0625",
-          "N50 G03 X-0.0375 Y0.0375 Z0.0125 I-0.0375 J0.0", "N55 G01 G40 Y-0.0375",
+        // From here on a seventh place of 49 or so goes up twice: to six places, then five
+        {{1.25, -2.5, .1, .75, .500098, .3750082, .0500196, 12.5, 0, 1, true},
+         {"N10 G00 G90 X1.25 Y-2.5", "N15 Z0.1", "N20 G00 G91 X0.02501", "N25 G01 G90 Z-0.75 F12.5",
+          "N30 G01 G91 G41 Y-0.03754", "N35 G03 X0.03754 Y0.03754 Z0.01251 I0.0 J0.03754",
+          "N40 G03 Z0.05002 I-0.06255", "N45 G03 Z0.05002 I-0.06255",
+          "N50 G03 X-0.03754 Y0.03754 Z0.01251 I-0.03754 J0.0", "N55 G01 G40 Y-0.03754",
           "N60 G00 G90 X1.25 Y-2.5", "N65 Z0.1"}},
-        {{0, 0, .1, .5, 1, .5, .125, 5, 1, 0, false},
-         {"G00 G90 X0.0 Y0.0", "Z0.1", "G00 G91 X1.0", "G01 G90 Z0.15625 F5.0", "G01 G91 G41 Y0.25",
-          "G03 X-0.25 Y-0.25 Z-0.03125 I0.0 J-0.25", "G02 Z-0.125 I-0.75", "G02 Z-0.125 I-0.75",
-          "G02 Z-0.125 I-0.75", "G02 Z-0.125 I-0.75", "G02 Z-0.125 I-0.75",
-          "G03 X0.25 Y-0.25 Z-0.03125 I0.25 J0.0", "G01 G40 Y0.25", "G00 G90 Z0.1", "X0.0 Y0.0"}},
-        {{-1, 2, 1, .4375, .625, .5, .0625, 7.5, 1, 1, true},
+        // D / P + 1 is 4.54: five turns, where a first rounding to 4.5 would give four
+        {{0, 0, .1, .4426131, 1, .5000098, .1250196, 5, 1, 0, false},
+         {"G00 G90 X0.0 Y0.0", "Z0.1", "G00 G91 X1.00001", "G01 G90 Z0.21375 F5.0",
+          "G01 G91 G41 Y0.25001", "G03 X-0.25001 Y-0.25001 Z-0.03126 I0.0 J-0.25001",
+          "G02 Z-0.12502 I-0.75001", "G02 Z-0.12502 I-0.75001", "G02 Z-0.12502 I-0.75001",
+          "G02 Z-0.12502 I-0.75001", "G02 Z-0.12502 I-0.75001",
+          "G03 X0.25001 Y-0.25001 Z-0.03126 I0.25001 J0.0", "G01 G40 Y0.25001", "G00 G90 Z0.1",
+          "X0.0 Y0.0"}},
+        {{-1, 2, 1, .4375, .625, .4999902, .0625, 7.5, 1, 1, true},
          {"N10 G00 G90 X-1.0 Y2.0", "N15 Z1.0", "N20 G00 G91 X0.03125", "N25 G01 G90 Z-0.4375 F7.5",
-          "N30 G01 G91 G41 Y-0.03125", "N35 G03 X0.03125 Y0.03125 Z0.01563 I0.0 J0.03125",
-          "N40 G03 Z0.0625 I-0.0625", "N45 G03 Z0.0625 I-0.0625", "N50 G03 Z0.0625 I-0.0625",
-          "N55 G03 Z0.0625 I-0.0625", "N60 G03 Z0.0625 I-0.0625", "N65 G03 Z0.0625 I-0.0625",
-          "N70 G03 Z0.0625 I-0.0625", "N75 G03 Z0.0625 I-0.0625",
-          "N80 G03 X-0.03125 Y0.03125 Z0.01563 I-0.03125 J0.0", "N85 G01 G40 Y-0.03125",
+          "N30 G01 G91 G41 Y-0.03126", "N35 G03 X0.03126 Y0.03126 Z0.01563 I0.0 J0.03126",
+          "N40 G03 Z0.0625 I-0.06251", "N45 G03 Z0.0625 I-0.06251", "N50 G03 Z0.0625 I-0.06251",
+          "N55 G03 Z0.0625 I-0.06251", "N60 G03 Z0.0625 I-0.06251", "N65 G03 Z0.0625 I-0.06251",
+          "N70 G03 Z0.0625 I-0.06251", "N75 G03 Z0.0625 I-0.06251",
+          "N80 G03 X-0.03126 Y0.03126 Z0.01563 I-0.03126 J0.0", "N85 G01 G40 Y-0.03126",
           "N90 G00 G90 X-1.0 Y2.0", "N95 Z1.0"}},
     };
     for (const auto& layout : layouts) {
         BlockLabels labels;
         EXPECT_EQ(ThreadMillProgram(layout.job, labels).program, layout.lines.join("\r\n"));
     }
+    BlockLabels labels;
+    EXPECT_TRUE(ThreadMillProgram({0, 0, .1, .5000049, 1, .5000049, .125, 5, 0, 0, false}, labels)
+                    .program.contains("G00 G91 X1.00001\r\nG01 G90 Z-0.21876 F5.0"));
 }
 
 // What a run ends in: its refusal, the lines of its program, or the failure.
@@ -91,21 +98,17 @@ TEST(ThreadMillSolver, OutcomeRows) {
 
 TEST(ThreadMillSolver, TheLabelTableCarriesOverBetweenRuns) {
     BlockLabels labels;
-    // 17 turns, numbered: labels 1 to 36 are written, the program uses 27.
+    // 17 turns, numbered: labels 1 to 36 written; then the hob mill empties 1 to 12.
     ThreadMillProgram({0, 0, .1, 1, 1, .5, .0625, 5, 1, 0, true}, labels);
-    EXPECT_EQ(labels[36], "N185 ");
-    EXPECT_EQ(labels.next, 28);
-    // The hob mill without numbers empties labels 1 to 12 only.
     ThreadMillProgram({0, 0, .1, 1, 1, .5, .0625, 5, 0, 0, false}, labels);
-    EXPECT_EQ(labels[12], "");
-    EXPECT_EQ(labels[13], "N70 ");
-    // A depth of -1 writes Int(-16 + 20) = 4 labels; the turns from label 13
-    // on take the numbers of the first run.
+    // A depth of -1 writes Int(-16 + 20) = 4 labels; from label 13 on the
+    // turns take the numbers of the first run.
     const QStringList lines =
         ThreadMillProgram({0, 0, .1, -1, 1, .5, .0625, -5, 1, 0, false}, labels)
             .program.split("\r\n");
     ASSERT_EQ(lines.size(), 27);
     EXPECT_EQ(lines[3], "G01 G90 Z0.07813 F-5.0");
+    EXPECT_EQ(lines[11], "G02 Z-0.0625 I-0.75");
     EXPECT_EQ(lines[12], "N70 G02 Z-0.0625 I-0.75");
     EXPECT_EQ(lines[26], "N140 X0.0 Y0.0");
 }
@@ -165,8 +168,8 @@ TEST(ThreadMilling, HandlerRows) {
             EXPECT_EQ(h.ui.messageTexts(), QStringList{row.said}) << row.steps;
             EXPECT_EQ(f.text("fld_TM_Answer"), "") << row.steps;
         }
-        const QString typed = QString(row.steps).section('|', 0, 7);
-        EXPECT_EQ(Fields(f), row.after != nullptr ? row.after : typed) << row.steps;
+        EXPECT_EQ(Fields(f), row.after ? row.after : QString(row.steps).section('|', 0, 7))
+            << row.steps;
     }
 }
 
@@ -185,7 +188,6 @@ TEST(ThreadMilling, LoadsWithTheFirstItemsAndClearAllLeavesTheChoices) {
     Mill(h, "0|0|.1|.5|1|.5|.125|5|popTM_Tool#1|popTM_Thread#1|Checkbox1208|Command1|Command2");
     EXPECT_EQ(Fields(f) + f.text("fld_TM_Answer"), "|||||||");
     EXPECT_EQ(f.text("popTM_Tool") + f.text("popTM_Thread"), "Single Pt.Int.");
-    EXPECT_TRUE(f.value("Checkbox1208"));
 }
 
 }  // namespace
