@@ -1,6 +1,6 @@
 // Bolt Circle: the X and Y of equally spaced holes on a circle, one line a hole.
 
-#include <cstdint>
+#include "quickcode/bolt_circle.h"
 
 #include "frame/angles.h"
 #include "frame/app.h"
@@ -19,27 +19,47 @@ QString Fmt(Real v) {
     return FormatNum(v, "####0.0#####");
 }
 
-QString HoleList(Real d, Real h, Real xc, Real yc, Real a, bool noNumbers, std::int16_t places) {
+}  // namespace
+
+Real BoltCircleStartAngle(const QString& typed, bool dms) {
+    return dms ? ValOf(DmsTextToDd(typed)) : ValOf(typed);
+}
+
+std::vector<BoltHole> BoltCircleHoles(Real diameter, Real holes, Real xc, Real yc, Real startAngle,
+                                      std::int16_t places) {
     // The step keeps the fraction of the count; the number of holes does not.
-    const Real step = 360 / h;
-    const std::int16_t n = ToInt16(h);
-    QString list;
+    const Real step = 360 / holes;
+    const std::int16_t n = ToInt16(holes);
+    std::vector<BoltHole> list;
+    Real a = startAngle;
     // The count stops at n without stepping past it, so 32767 holes fit.
     for (int i = 1; i <= n; ++i) {
-        Real x = (d / 2) * Cos(Pi() * a / 180) + xc;
-        Real y = (d / 2) * Sin(Pi() * a / 180) + yc;
+        Real x = (diameter / 2) * Cos(Pi() * a / 180) + xc;
+        Real y = (diameter / 2) * Sin(Pi() * a / 180) + yc;
         x = RoundTo(x, places);
         y = RoundTo(y, places);
+        list.push_back({a, x, y});
         // Not taken modulo 360: the angle runs on past a full turn.
         a = step + a;
+    }
+    return list;
+}
+
+QString BoltCircleList(const std::vector<BoltHole>& holes, bool noNumbers) {
+    QString list;
+    int i = 0;
+    for (const BoltHole& hole : holes) {
+        ++i;
         if (noNumbers) {
-            list += u'X' + Fmt(x) + u'Y' + Fmt(y) + kCrLf;
+            list += u'X' + Fmt(hole.x) + u'Y' + Fmt(hole.y) + kCrLf;
         } else {
-            list += NumToStr(i) + QStringLiteral("] X") + Fmt(x) + u'Y' + Fmt(y) + kCrLf;
+            list += NumToStr(i) + QStringLiteral("] X") + Fmt(hole.x) + u'Y' + Fmt(hole.y) + kCrLf;
         }
     }
     return list;
 }
+
+namespace {
 
 void Calculate(Form& f) {
     if (IsNumberText(f.text("Text3")) == 0 || IsNumberText(f.text("Text4")) == 0) {
@@ -70,14 +90,14 @@ void Calculate(Form& f) {
         ProgramMessage(f, "Error, Invalid input in the angle data field");
         return;
     }
-    const Real a =
-        f.value("chkDMSbc") ? ValOf(DmsTextToDd(f.text("Text5"))) : ValOf(f.text("Text5"));
+    const Real a = BoltCircleStartAngle(f.text("Text5"), f.value("chkDMSbc"));
     f.setText("Text7", "Please wait..." + kCrLf + "Calculating " + f.text("Text2") + " holes.");
     // One chance to paint; a long list is not interrupted after this.
     f.app().ui().processEvents();
-    f.setText("Text7",
-              HoleList(ValOf(f.text("Text1")), ValOf(f.text("Text2")), ValOf(f.text("Text3")),
-                       ValOf(f.text("Text4")), a, f.value("chkNoNumbers"), f.app().decPlace));
+    const std::vector<BoltHole> holes =
+        BoltCircleHoles(ValOf(f.text("Text1")), ValOf(f.text("Text2")), ValOf(f.text("Text3")),
+                        ValOf(f.text("Text4")), a, f.app().decPlace);
+    f.setText("Text7", BoltCircleList(holes, f.value("chkNoNumbers")));
 }
 
 void ClearAll(Form& f) {

@@ -1,6 +1,8 @@
 // Thread Milling: a helical G-code program for a hob mill or a single point
 // tool, external or internal, with cutter compensation.
 
+#include "quickcode/thread_milling.h"
+
 #include <cstdint>
 
 #include "frame/angles.h"
@@ -20,26 +22,17 @@ QString Fmt(Real v) {
     return FormatNum(v, "####0.0####");
 }
 
-Real Field(const Form& f, const QString& name) {
-    return ValOf(f.text(name));
-}
-
-void Stop(Form& f, const QString& message) {
-    ProgramMessage(f, message);
-    f.setText(kAnswer, QString());
-}
-
 // The texts that the lines are joined from. Each is kept as written, and a
 // later sum reads the written text back, not the exact value.
 struct Derived {
     QString c, r, q, s, h, a, b, e;
 };
 
-Derived Derive(const Form& f) {
-    const Real t = Field(f, "fld_TM_ToolDia");
-    const Real m = Field(f, "fld_TM_Major");
-    const Real p = Field(f, "fld_TM_Pitch");
-    const Real d = Field(f, kDepth);
+Derived Derive(const ThreadMillJob& job) {
+    const Real t = job.toolDia;
+    const Real m = job.major;
+    const Real p = job.pitch;
+    const Real d = job.depth;
     Derived x;
     x.c = Fmt(RoundTo((t + m) / 2, 6));
     x.r = Fmt(RoundTo(t / 2, 6));
@@ -52,24 +45,21 @@ Derived Derive(const Form& f) {
     return x;
 }
 
-void FillLabels(Form& f, bool singlePoint) {
-    BlockLabels& labels = f.app().blockLabels;
-    const std::int16_t count =
-        singlePoint ? ToInt16(Int(Field(f, kDepth) / Field(f, "fld_TM_Pitch") + 20)) : 12;
-    const bool numbered = f.value("Checkbox1208");
+void FillLabels(const ThreadMillJob& job, BlockLabels& labels) {
+    const std::int16_t count = job.tool == 1 ? ToInt16(Int(job.depth / job.pitch + 20)) : 12;
     std::int16_t number = 10;
     for (int i = 1; i <= count; ++i) {
-        labels[i] = numbered ? u'N' + QString::number(number) + u' ' : QString();
+        labels[i] = job.numbered ? u'N' + QString::number(number) + u' ' : QString();
         Step16(number, 5);
     }
 }
 
 // Lines 1 to 12 of the hob mill program, without their labels.
-QStringList HobMillLines(const Form& f, const Derived& x, bool internal) {
-    const QString xy = Fmt(Field(f, "fld_TM_Xpos")) + " Y" + Fmt(Field(f, "fld_TM_Ypos"));
-    const QString z = Fmt(Field(f, "fld_TM_ZStart"));
-    const QString feed = " F" + Fmt(Field(f, "fld_TM_Feed"));
-    const QString pitch = Fmt(Field(f, "fld_TM_Pitch"));
+QStringList HobMillLines(const ThreadMillJob& job, const Derived& x, bool internal) {
+    const QString xy = Fmt(job.x) + " Y" + Fmt(job.y);
+    const QString z = Fmt(job.zStart);
+    const QString feed = " F" + Fmt(job.feed);
+    const QString pitch = Fmt(job.pitch);
     if (!internal) {
         return {"G00 G90 X" + xy,
                 "Z" + z,
@@ -88,7 +78,7 @@ QStringList HobMillLines(const Form& f, const Derived& x, bool internal) {
     return {"G00 G90 X" + xy,
             "Z" + z,
             "G00 G91 X" + x.e,
-            "G01 G90 Z" + Fmt(Negate(Field(f, kDepth))) + feed,
+            "G01 G90 Z" + Fmt(Negate(job.depth)) + feed,
             "G01 G91 G41 Y-" + x.a,
             "G03 X" + x.a + " Y" + x.a + " Z" + x.q + " I0.0 J" + x.a,
             "G03 Z" + pitch + " I-" + x.b,
@@ -99,9 +89,8 @@ QStringList HobMillLines(const Form& f, const Derived& x, bool internal) {
             "Z" + z};
 }
 
-QString HobMill(Form& f, const Derived& x, bool internal) {
-    const QStringList lines = HobMillLines(f, x, internal);
-    BlockLabels& labels = f.app().blockLabels;
+QString HobMill(const ThreadMillJob& job, const Derived& x, bool internal, BlockLabels& labels) {
+    const QStringList lines = HobMillLines(job, x, internal);
     QString program;
     for (int i = 1; i <= 12; ++i) {
         program += labels[i] + lines[i - 1];
@@ -114,18 +103,18 @@ QString HobMill(Form& f, const Derived& x, bool internal) {
 
 // Lines 7 and 8 of the hob mill give way to one full turn per pitch, and the
 // labels of the turns and of what follows come from the running counter.
-QString SinglePoint(Form& f, const Derived& x, bool internal) {
-    const Real d = Field(f, kDepth);
-    const Real p = Field(f, "fld_TM_Pitch");
+QString SinglePoint(const ThreadMillJob& job, const Derived& x, bool internal,
+                    BlockLabels& labels) {
+    const Real d = job.depth;
+    const Real p = job.pitch;
     const std::int16_t turns = ToInt16(RoundTo(Abs(d) / p + 1, 0));
-    QStringList lines = HobMillLines(f, x, internal);
+    QStringList lines = HobMillLines(job, x, internal);
     if (!internal) {
         lines[3] = "G01 G90 Z" +
                    Fmt(ValOf(NumToStr(RoundTo(Real(turns) * p + ValOf(x.q) - Abs(d), 6)))) + " F" +
-                   Fmt(Field(f, "fld_TM_Feed"));
+                   Fmt(job.feed);
     }
     const QString turn = lines[6];
-    BlockLabels& labels = f.app().blockLabels;
     QString program;
     for (int i = 1; i <= 6; ++i) {
         program += labels[i] + lines[i - 1] + QStringLiteral("\r\n");
@@ -143,6 +132,39 @@ QString SinglePoint(Form& f, const Derived& x, bool internal) {
         }
     }
     return program;
+}
+
+}  // namespace
+
+ThreadMillAnswer ThreadMillProgram(const ThreadMillJob& job, BlockLabels& labels) {
+    const Derived x = Derive(job);
+    FillLabels(job, labels);
+    if (job.thread != 0 && job.thread != 1) {
+        return {};  // a thread type typed in selects no program
+    }
+    const bool internal = job.thread == 1;
+    // A tool of exactly 90% of the major passes.
+    if (internal && PercentOf(job.major, 90) < job.toolDia) {
+        return {QString(), QStringLiteral("Error, Tool Diameter greater than 90% of Major.")};
+    }
+    if (job.tool == 0) {
+        return {HobMill(job, x, internal, labels), QString()};
+    }
+    if (job.tool == 1) {
+        return {SinglePoint(job, x, internal, labels), QString()};
+    }
+    return {};
+}
+
+namespace {
+
+Real Field(const Form& f, const QString& name) {
+    return ValOf(f.text(name));
+}
+
+void Stop(Form& f, const QString& message) {
+    ProgramMessage(f, message);
+    f.setText(kAnswer, QString());
 }
 
 void Calculate(Form& f) {
@@ -189,23 +211,23 @@ void Calculate(Form& f) {
             return;
         }
     }
-    const Derived x = Derive(f);
-    const int tool = f.listIndex("popTM_Tool");
-    const int thread = f.listIndex("popTM_Thread");
-    FillLabels(f, tool == 1);
-    if (thread != 0 && thread != 1) {
-        return;  // a thread type typed in selects no program
-    }
-    const bool internal = thread == 1;
-    // A tool of exactly 90% of the major passes.
-    if (internal && PercentOf(Field(f, "fld_TM_Major"), 90) < Field(f, "fld_TM_ToolDia")) {
-        Stop(f, "Error, Tool Diameter greater than 90% of Major.");
-        return;
-    }
-    if (tool == 0) {
-        f.setText(kAnswer, HobMill(f, x, internal));
-    } else if (tool == 1) {
-        f.setText(kAnswer, SinglePoint(f, x, internal));
+    // The fields as the repairs left them.
+    const ThreadMillJob job{.x = Field(f, "fld_TM_Xpos"),
+                            .y = Field(f, "fld_TM_Ypos"),
+                            .zStart = Field(f, "fld_TM_ZStart"),
+                            .depth = Field(f, kDepth),
+                            .major = Field(f, "fld_TM_Major"),
+                            .toolDia = Field(f, "fld_TM_ToolDia"),
+                            .pitch = Field(f, "fld_TM_Pitch"),
+                            .feed = Field(f, "fld_TM_Feed"),
+                            .tool = f.listIndex("popTM_Tool"),
+                            .thread = f.listIndex("popTM_Thread"),
+                            .numbered = f.value("Checkbox1208")};
+    const ThreadMillAnswer answer = ThreadMillProgram(job, f.app().blockLabels);
+    if (!answer.refusal.isEmpty()) {
+        Stop(f, answer.refusal);
+    } else if (!answer.program.isEmpty()) {
+        f.setText(kAnswer, answer.program);
     }
 }
 

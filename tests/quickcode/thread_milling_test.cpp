@@ -1,484 +1,193 @@
 #include <gtest/gtest.h>
 
+#include "quickcode/thread_milling.h"
 #include "tests/support/fake_ui.h"
 
 namespace tavrin {
 namespace {
 
-using testing::Harness;
+// X, Y, Z start, depth, major, tool, pitch, feed; tool type, thread type, "N" numbers.
+TEST(ThreadMillSolver, OneWholeProgramPerLayout) {
+    const struct {
+        ThreadMillJob job;
+        QStringList lines;
+    } layouts[] = {
+        // Q is 0.015625 written away from zero, and line 4 sums that text
+        {{0, 0, .1, .5, 1, .5, .0625, 5, 0, 0, false},
+         {"G00 G90 X0.0 Y0.0", "Z0.1", "G00 G91 X1.0", "G01 G90 Z-0.35937 F5.0",
+          "G01 G91 G41 Y0.25", "G03 X-0.25 Y-0.25 Z-0.01563 I0.0 J-0.25", "G02 Z-0.0625 I-0.75",
+          "G02 Z-0.0625 I-0.75", "G03 X0.25 Y-0.25 Z-0.01563 I0.25 J0.0", "G01 G40 Y0.25",
+          "G00 G90 Z0.1", "X0.0 Y0.0"}},
+        // From here on a seventh place of 49 or so goes up twice: to six places, then five
+        {{1.25, -2.5, .1, .75, .500098, .3750082, .0500196, 12.5, 0, 1, true},
+         {"N10 G00 G90 X1.25 Y-2.5", "N15 Z0.1", "N20 G00 G91 X0.02501", "N25 G01 G90 Z-0.75 F12.5",
+          "N30 G01 G91 G41 Y-0.03754", "N35 G03 X0.03754 Y0.03754 Z0.01251 I0.0 J0.03754",
+          "N40 G03 Z0.05002 I-0.06255", "N45 G03 Z0.05002 I-0.06255",
+          "N50 G03 X-0.03754 Y0.03754 Z0.01251 I-0.03754 J0.0", "N55 G01 G40 Y-0.03754",
+          "N60 G00 G90 X1.25 Y-2.5", "N65 Z0.1"}},
+        // D / P + 1 is 4.54: five turns, where a first rounding to 4.5 would give four
+        {{0, 0, .1, .4426131, 1, .5000098, .1250196, 5, 1, 0, false},
+         {"G00 G90 X0.0 Y0.0", "Z0.1", "G00 G91 X1.00001", "G01 G90 Z0.21375 F5.0",
+          "G01 G91 G41 Y0.25001", "G03 X-0.25001 Y-0.25001 Z-0.03126 I0.0 J-0.25001",
+          "G02 Z-0.12502 I-0.75001", "G02 Z-0.12502 I-0.75001", "G02 Z-0.12502 I-0.75001",
+          "G02 Z-0.12502 I-0.75001", "G02 Z-0.12502 I-0.75001",
+          "G03 X0.25001 Y-0.25001 Z-0.03126 I0.25001 J0.0", "G01 G40 Y0.25001", "G00 G90 Z0.1",
+          "X0.0 Y0.0"}},
+        {{-1, 2, 1, .4375, .625, .4999902, .0625, 7.5, 1, 1, true},
+         {"N10 G00 G90 X-1.0 Y2.0", "N15 Z1.0", "N20 G00 G91 X0.03125", "N25 G01 G90 Z-0.4375 F7.5",
+          "N30 G01 G91 G41 Y-0.03126", "N35 G03 X0.03126 Y0.03126 Z0.01563 I0.0 J0.03126",
+          "N40 G03 Z0.0625 I-0.06251", "N45 G03 Z0.0625 I-0.06251", "N50 G03 Z0.0625 I-0.06251",
+          "N55 G03 Z0.0625 I-0.06251", "N60 G03 Z0.0625 I-0.06251", "N65 G03 Z0.0625 I-0.06251",
+          "N70 G03 Z0.0625 I-0.06251", "N75 G03 Z0.0625 I-0.06251",
+          "N80 G03 X-0.03126 Y0.03126 Z0.01563 I-0.03126 J0.0", "N85 G01 G40 Y-0.03126",
+          "N90 G00 G90 X-1.0 Y2.0", "N95 Z1.0"}},
+    };
+    for (const auto& layout : layouts) {
+        BlockLabels labels;
+        EXPECT_EQ(ThreadMillProgram(layout.job, labels).program, layout.lines.join("\r\n"));
+    }
+    BlockLabels labels;
+    EXPECT_TRUE(ThreadMillProgram({0, 0, .1, .5000049, 1, .5000049, .125, 5, 0, 0, false}, labels)
+                    .program.contains("G00 G91 X1.00001\r\nG01 G90 Z-0.21876 F5.0"));
+}
 
-struct ThreadCase {
-    const char* x;
-    const char* y;
-    const char* z;
-    const char* depth;
-    const char* major;
-    const char* tool;
-    const char* pitch;
-    const char* feed;
-    int toolType;    // 0 hob mill, 1 single point
-    int threadType;  // 0 external, 1 internal
-    bool numbered;
-    QStringList lines;
-};
-
-void Fill(Harness& h, Form& f, const ThreadCase& c) {
-    h.set(f, "fld_TM_Xpos", c.x);
-    h.set(f, "fld_TM_Ypos", c.y);
-    h.set(f, "fld_TM_ZStart", c.z);
-    h.set(f, "fld_TM_Depth", c.depth);
-    h.set(f, "fld_TM_Major", c.major);
-    h.set(f, "fld_TM_ToolDia", c.tool);
-    h.set(f, "fld_TM_Pitch", c.pitch);
-    h.set(f, "fld_TM_Feed", c.feed);
-    h.app.userSelect(f, "popTM_Tool", c.toolType);
-    h.app.userSelect(f, "popTM_Thread", c.threadType);
-    if (f.value("Checkbox1208") != c.numbered) {
-        h.click(f, "Checkbox1208");
+// What a run ends in: its refusal, the lines of its program, or the failure.
+QString Outcome(const ThreadMillJob& job, BlockLabels& labels) {
+    try {
+        const ThreadMillAnswer answer = ThreadMillProgram(job, labels);
+        const qsizetype lines = answer.program.count("\r\n") + 1;
+        return answer.refusal + (answer.program.isEmpty() ? "" : QString("%1 lines").arg(lines));
+    } catch (const RunTimeError& e) {
+        return e.text();
     }
 }
 
-class ThreadMillingPrograms : public ::testing::TestWithParam<ThreadCase> {};
-
-TEST_P(ThreadMillingPrograms, WritesEveryLineInOrder) {
-    const ThreadCase& c = GetParam();
-    Harness h;
-    Form& f = h.open("frmThdMill");
-    Fill(h, f, c);
-    h.click(f, "Command1");
-    EXPECT_TRUE(h.ui.messages.empty()) << h.ui.messageTexts().join('|').toStdString();
-    EXPECT_TRUE(h.ui.fatals.empty());
-    EXPECT_EQ(f.text("fld_TM_Answer").split("\r\n"), c.lines);
-    // CR LF between lines, none behind the last
-    EXPECT_EQ(f.text("fld_TM_Answer"), c.lines.join("\r\n"));
+TEST(ThreadMillSolver, OutcomeRows) {
+    const char* const kTooLarge = "Error, Tool Diameter greater than 90% of Major.";
+    const struct {
+        ThreadMillJob job;
+        const char* outcome;
+        const char* fault;
+    } rows[] = {
+        // Ten lines beside the turns
+        {{0, 0, .1, .4375, 1, .5, .125, 5, 1, 0, false}, "14 lines", "D / P 3.5: 4.5 turns to 4"},
+        {{0, 0, .1, .5625, 1, .5, .125, 5, 1, 0, false}, "16 lines", "D / P 4.5: 5.5 turns to 6"},
+        {{0, 0, .1, .5, 1, 3, .125, 5, 0, 0, false}, "12 lines", "no tool limit outside"},
+        {{0, 0, .1, .5, 1, .9, .125, 5, 0, 1, false}, "12 lines", "a tool of 90% passes"},
+        {{0, 0, .1, .5, 1, .9000001, .125, 5, 1, 1, true}, kTooLarge, "above 90%"},
+        {{0, 0, .1, 281, 1, .5, 1, 5, -1, 0, false}, "", "a typed tool: twelve labels, no program"},
+        {{0, 0, .1, 280, 1, .5, 1, 5, 1, 0, false}, "291 lines", "D / P 280: up to label 300"},
+        {{0, 0, .1, 281, 1, .5, 1, 5, 1, 0, false}, "Subscript out of range", "label 301"},
+        {{0, 0, .1, 281, 1, .5, 1, 5, 0, 0, true}, "12 lines", "the hob mill: twelve labels"},
+        {{0, 0, .1, 281, 1, .95, 1, 5, 1, 1, false}, "Subscript out of range", "labels first"},
+        {{0, 0, .1, 281, 1E308, 1E308, 1, 5, 1, 0, false}, "Overflow", "derived texts first"},
+        {{0, 0, .1, -289, 1, .5, 1, -5, 1, 0, false}, "300 lines", "a flipped depth: label 300"},
+        {{0, 0, .1, -290, 1, .5, 1, -5, 1, 0, false}, "Subscript out of range", "behind the run"},
+        {{0, 0, .1, -295, 1, .5, 1, -5, 1, 0, false}, "Subscript out of range", "in the run"},
+        {{0, 0, .1, 40000, 1, .5, 1, 5, 1, 0, false}, "Overflow", "Int(D / P + 20) in 16 bits"},
+    };
+    for (const auto& row : rows) {
+        BlockLabels labels;
+        EXPECT_EQ(Outcome(row.job, labels), row.outcome) << row.fault;
+    }
+    BlockLabels labels;
+    // A typed thread type writes no program, but the labels are written.
+    EXPECT_EQ(Outcome({0, 0, .1, .5, 1, 3, .125, 5, 0, -1, true}, labels), "");
+    EXPECT_EQ(labels[12], "N65 ");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Table, ThreadMillingPrograms,
-    ::testing::Values(
-        // the worked example: Q rounds away from zero
-        ThreadCase{
-            "0",
-            "0",
-            ".1",
-            ".5",
-            "1",
-            ".5",
-            ".0625",
-            "5",
-            0,
-            0,
-            false,
-            {"G00 G90 X0.0 Y0.0", "Z0.1", "G00 G91 X1.0", "G01 G90 Z-0.35937 F5.0",
-             "G01 G91 G41 Y0.25", "G03 X-0.25 Y-0.25 Z-0.01563 I0.0 J-0.25", "G02 Z-0.0625 I-0.75",
-             "G02 Z-0.0625 I-0.75", "G03 X0.25 Y-0.25 Z-0.01563 I0.25 J0.0", "G01 G40 Y0.25",
-             "G00 G90 Z0.1", "X0.0 Y0.0"}},
-        // numbered from N10 by fives
-        ThreadCase{"0",
-                   "0",
-                   ".1",
-                   ".5",
-                   "1",
-                   ".5",
-                   ".0625",
-                   "5",
-                   0,
-                   0,
-                   true,
-                   {"N10 G00 G90 X0.0 Y0.0", "N15 Z0.1", "N20 G00 G91 X1.0",
-                    "N25 G01 G90 Z-0.35937 F5.0", "N30 G01 G91 G41 Y0.25",
-                    "N35 G03 X-0.25 Y-0.25 Z-0.01563 I0.0 J-0.25", "N40 G02 Z-0.0625 I-0.75",
-                    "N45 G02 Z-0.0625 I-0.75", "N50 G03 X0.25 Y-0.25 Z-0.01563 I0.25 J0.0",
-                    "N55 G01 G40 Y0.25", "N60 G00 G90 Z0.1", "N65 X0.0 Y0.0"}},
-        // internal hob mill
-        ThreadCase{"1.25",
-                   "-2.5",
-                   ".1",
-                   ".75",
-                   ".5",
-                   ".375",
-                   ".05",
-                   "12.5",
-                   0,
-                   1,
-                   true,
-                   {"N10 G00 G90 X1.25 Y-2.5", "N15 Z0.1", "N20 G00 G91 X0.025",
-                    "N25 G01 G90 Z-0.75 F12.5", "N30 G01 G91 G41 Y-0.0375",
-                    "N35 G03 X0.0375 Y0.0375 Z0.0125 I0.0 J0.0375", "N40 G03 Z0.05 I-0.0625",
-                    "N45 G03 Z0.05 I-0.0625", "N50 G03 X-0.0375 Y0.0375 Z0.0125 I-0.0375 J0.0",
-                    "N55 G01 G40 Y-0.0375", "N60 G00 G90 X1.25 Y-2.5", "N65 Z0.1"}},
-        // five turns
-        ThreadCase{
-            "0",
-            "0",
-            ".1",
-            ".5",
-            "1",
-            ".5",
-            ".125",
-            "5",
-            1,
-            0,
-            false,
-            {"G00 G90 X0.0 Y0.0", "Z0.1", "G00 G91 X1.0", "G01 G90 Z0.15625 F5.0",
-             "G01 G91 G41 Y0.25", "G03 X-0.25 Y-0.25 Z-0.03125 I0.0 J-0.25", "G02 Z-0.125 I-0.75",
-             "G02 Z-0.125 I-0.75", "G02 Z-0.125 I-0.75", "G02 Z-0.125 I-0.75", "G02 Z-0.125 I-0.75",
-             "G03 X0.25 Y-0.25 Z-0.03125 I0.25 J0.0", "G01 G40 Y0.25", "G00 G90 Z0.1",
-             "X0.0 Y0.0"}},
-        // eight turns, numbered
-        ThreadCase{
-            "3",
-            "4",
-            ".25",
-            ".6",
-            ".75",
-            ".5",
-            ".0833",
-            "8",
-            1,
-            0,
-            true,
-            {"N10 G00 G90 X3.0 Y4.0", "N15 Z0.25", "N20 G00 G91 X0.875",
-             "N25 G01 G90 Z0.08723 F8.0", "N30 G01 G91 G41 Y0.25",
-             "N35 G03 X-0.25 Y-0.25 Z-0.02083 I0.0 J-0.25", "N40 G02 Z-0.0833 I-0.625",
-             "N45 G02 Z-0.0833 I-0.625", "N50 G02 Z-0.0833 I-0.625", "N55 G02 Z-0.0833 I-0.625",
-             "N60 G02 Z-0.0833 I-0.625", "N65 G02 Z-0.0833 I-0.625", "N70 G02 Z-0.0833 I-0.625",
-             "N75 G02 Z-0.0833 I-0.625", "N80 G03 X0.25 Y-0.25 Z-0.02083 I0.25 J0.0",
-             "N85 G01 G40 Y0.25", "N90 G00 G90 Z0.25", "N95 X3.0 Y4.0"}},
-        // internal single point
-        ThreadCase{
-            "-1",
-            "2",
-            "1",
-            ".4375",
-            ".625",
-            ".5",
-            ".0625",
-            "7.5",
-            1,
-            1,
-            true,
-            {"N10 G00 G90 X-1.0 Y2.0", "N15 Z1.0", "N20 G00 G91 X0.03125",
-             "N25 G01 G90 Z-0.4375 F7.5", "N30 G01 G91 G41 Y-0.03125",
-             "N35 G03 X0.03125 Y0.03125 Z0.01563 I0.0 J0.03125", "N40 G03 Z0.0625 I-0.0625",
-             "N45 G03 Z0.0625 I-0.0625", "N50 G03 Z0.0625 I-0.0625", "N55 G03 Z0.0625 I-0.0625",
-             "N60 G03 Z0.0625 I-0.0625", "N65 G03 Z0.0625 I-0.0625", "N70 G03 Z0.0625 I-0.0625",
-             "N75 G03 Z0.0625 I-0.0625", "N80 G03 X-0.03125 Y0.03125 Z0.01563 I-0.03125 J0.0",
-             "N85 G01 G40 Y-0.03125", "N90 G00 G90 X-1.0 Y2.0", "N95 Z1.0"}},
-        // a tool of exactly 90% passes
-        ThreadCase{"0",
-                   "0",
-                   ".1",
-                   ".5",
-                   "1",
-                   ".9",
-                   ".125",
-                   "5",
-                   0,
-                   1,
-                   false,
-                   {"G00 G90 X0.0 Y0.0", "Z0.1", "G00 G91 X0.05", "G01 G90 Z-0.5 F5.0",
-                    "G01 G91 G41 Y-0.0", "G03 X0.0 Y0.0 Z0.03125 I0.0 J0.0", "G03 Z0.125 I-0.05",
-                    "G03 Z0.125 I-0.05", "G03 X-0.0 Y0.0 Z0.03125 I-0.0 J0.0", "G01 G40 Y-0.0",
-                    "G00 G90 X0.0 Y0.0", "Z0.1"}},
-        // a negative feed flips the depth
-        ThreadCase{"0",
-                   "0",
-                   ".1",
-                   ".5",
-                   "1",
-                   ".5",
-                   ".125",
-                   "-5",
-                   0,
-                   1,
-                   false,
-                   {"G00 G90 X0.0 Y0.0", "Z0.1", "G00 G91 X0.05", "G01 G90 Z0.5 F-5.0",
-                    "G01 G91 G41 Y-0.2", "G03 X0.2 Y0.2 Z0.03125 I0.0 J0.2", "G03 Z0.125 I-0.25",
-                    "G03 Z0.125 I-0.25", "G03 X-0.2 Y0.2 Z0.03125 I-0.2 J0.0", "G01 G40 Y-0.2",
-                    "G00 G90 X0.0 Y0.0", "Z0.1"}},
-        // negative entries become positive
-        ThreadCase{"0",
-                   "0",
-                   ".1",
-                   "-.5",
-                   "-1",
-                   "-.5",
-                   "-.125",
-                   "5",
-                   0,
-                   0,
-                   true,
-                   {"N10 G00 G90 X0.0 Y0.0", "N15 Z0.1", "N20 G00 G91 X1.0",
-                    "N25 G01 G90 Z-0.21875 F5.0", "N30 G01 G91 G41 Y0.25",
-                    "N35 G03 X-0.25 Y-0.25 Z-0.03125 I0.0 J-0.25", "N40 G02 Z-0.125 I-0.75",
-                    "N45 G02 Z-0.125 I-0.75", "N50 G03 X0.25 Y-0.25 Z-0.03125 I0.25 J0.0",
-                    "N55 G01 G40 Y0.25", "N60 G00 G90 Z0.1", "N65 X0.0 Y0.0"}},
-        // D / P 3.5: 4.5 turns tie to 4
-        ThreadCase{"0",
-                   "0",
-                   ".1",
-                   ".4375",
-                   "1",
-                   ".5",
-                   ".125",
-                   "5",
-                   1,
-                   0,
-                   false,
-                   {"G00 G90 X0.0 Y0.0", "Z0.1", "G00 G91 X1.0", "G01 G90 Z0.09375 F5.0",
-                    "G01 G91 G41 Y0.25", "G03 X-0.25 Y-0.25 Z-0.03125 I0.0 J-0.25",
-                    "G02 Z-0.125 I-0.75", "G02 Z-0.125 I-0.75", "G02 Z-0.125 I-0.75",
-                    "G02 Z-0.125 I-0.75", "G03 X0.25 Y-0.25 Z-0.03125 I0.25 J0.0", "G01 G40 Y0.25",
-                    "G00 G90 Z0.1", "X0.0 Y0.0"}},
-        // D / P 4.5: 5.5 turns tie to 6
-        ThreadCase{
-            "0",
-            "0",
-            ".1",
-            ".5625",
-            "1",
-            ".5",
-            ".125",
-            "5",
-            1,
-            0,
-            false,
-            {"G00 G90 X0.0 Y0.0", "Z0.1", "G00 G91 X1.0", "G01 G90 Z0.21875 F5.0",
-             "G01 G91 G41 Y0.25", "G03 X-0.25 Y-0.25 Z-0.03125 I0.0 J-0.25", "G02 Z-0.125 I-0.75",
-             "G02 Z-0.125 I-0.75", "G02 Z-0.125 I-0.75", "G02 Z-0.125 I-0.75", "G02 Z-0.125 I-0.75",
-             "G02 Z-0.125 I-0.75", "G03 X0.25 Y-0.25 Z-0.03125 I0.25 J0.0", "G01 G40 Y0.25",
-             "G00 G90 Z0.1", "X0.0 Y0.0"}}));
-
-struct RefusalCase {
-    ThreadCase fields;
-    const char* message;
-    // The fields after the message: the repairs made before it stay.
-    QStringList after;  // X, Y, Z Start, Depth, Major, Tool, Pitch, Feed
-};
-
-class ThreadMillingRefusals : public ::testing::TestWithParam<RefusalCase> {};
+TEST(ThreadMillSolver, TheLabelTableCarriesOverBetweenRuns) {
+    BlockLabels labels;
+    // 17 turns, numbered: labels 1 to 36 written; then the hob mill empties 1 to 12.
+    ThreadMillProgram({0, 0, .1, 1, 1, .5, .0625, 5, 1, 0, true}, labels);
+    ThreadMillProgram({0, 0, .1, 1, 1, .5, .0625, 5, 0, 0, false}, labels);
+    // A depth of -1 writes Int(-16 + 20) = 4 labels; from label 13 on the
+    // turns take the numbers of the first run.
+    const QStringList lines =
+        ThreadMillProgram({0, 0, .1, -1, 1, .5, .0625, -5, 1, 0, false}, labels)
+            .program.split("\r\n");
+    ASSERT_EQ(lines.size(), 27);
+    EXPECT_EQ(lines[3], "G01 G90 Z0.07813 F-5.0");
+    EXPECT_EQ(lines[11], "G02 Z-0.0625 I-0.75");
+    EXPECT_EQ(lines[12], "N70 G02 Z-0.0625 I-0.75");
+    EXPECT_EQ(lines[26], "N140 X0.0 Y0.0");
+}
 
 const char* const kFields[] = {"fld_TM_Xpos",  "fld_TM_Ypos",    "fld_TM_ZStart", "fld_TM_Depth",
                                "fld_TM_Major", "fld_TM_ToolDia", "fld_TM_Pitch",  "fld_TM_Feed"};
 
-TEST_P(ThreadMillingRefusals, ShowsTheMessageAndEmptiesTheProgram) {
-    const RefusalCase& c = GetParam();
-    Harness h;
-    Form& f = h.open("frmThdMill");
-    Fill(h, f, ThreadCase{"0", "0", ".1", ".5", "1", ".5", ".0625", "5", 0, 0, false, {}});
-    h.click(f, "Command1");
-    ASSERT_FALSE(f.text("fld_TM_Answer").isEmpty());
-    Fill(h, f, c.fields);
-    h.click(f, "Command1");
-    EXPECT_EQ(h.ui.messageTexts(), QStringList{c.message});
-    EXPECT_EQ(h.ui.messages[0].title, "Program Message");
-    EXPECT_EQ(f.text("fld_TM_Answer"), "");
-    QStringList after;
+// "X|Y|Z start|depth|major|tool|pitch|feed|more steps" run on the window.
+Form& Mill(testing::Harness& h, const QString& steps) {
+    QStringList all = steps.split('|');
+    for (int i = 0; i < 8; ++i) {
+        all[i] = QString(kFields[i]) + "=" + all[i];
+    }
+    return h.run("frmThdMill", all);
+}
+
+// The eight fields as they stand, joined as Mill takes them.
+QString Fields(const Form& f) {
+    QStringList texts;
     for (const char* name : kFields) {
-        after << f.text(name);
+        texts << f.text(name);
     }
-    EXPECT_EQ(after, c.after);
-    EXPECT_TRUE(h.ui.fatals.empty());
+    return texts.join('|');
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Table, ThreadMillingRefusals,
-    ::testing::Values(
-        RefusalCase{{"1a", "y", "z", "0", "0", "0", "0", "0", 0, 0, false, {}},
-                    "Invalid data in X Pos field",
-                    {"1a", "y", "z", "0", "0", "0", "0", "0"}},
-        RefusalCase{{"", "+2", "z", "-1", "0", "0", "0", "0", 0, 0, false, {}},
-                    "Invalid data in Y Pos field",
-                    {"", "+2", "z", "-1", "0", "0", "0", "0"}},
-        RefusalCase{{"", "", " .1", "-1", "0", "0", "0", "0", 0, 0, false, {}},
-                    "Invalid data in Z Start field",
-                    {"", "", " .1", "-1", "0", "0", "0", "0"}},
-        // Positions fill with "0", negatives turn positive, then pitch comes first
-        RefusalCase{{"", "-0", "", "-.5", "-1", "-.5", "0", "0", 0, 0, false, {}},
-                    "Error, pitch cannot have a zero value.",
-                    {"0", "0", "0", ".5", "1", ".5", "0", "0"}},
-        RefusalCase{{"1", "2", ".1", "abc", "1", ".5", "-.0625", "5", 0, 0, false, {}},
-                    "Error, depth cannot have a zero value.",
-                    {"1", "2", ".1", "abc", "1", ".5", ".0625", "5"}},
-        RefusalCase{{"1", "2", ".1", ".5", "0", "", ".0625", "", 0, 0, false, {}},
-                    "Error, Tool Diameter cannot have a zero value.",
-                    {"1", "2", ".1", ".5", "0", "", ".0625", ""}},
-        RefusalCase{{"1", "2", ".1", ".5", "x", ".5", ".0625", "0", 0, 0, false, {}},
-                    "Error, Major cannot have a zero value.",
-                    {"1", "2", ".1", ".5", "x", ".5", ".0625", "0"}},
-        RefusalCase{{"1", "2", ".1", "-.25", "1", ".5", ".0625", "0", 0, 0, false, {}},
-                    "Error, Feedrate should not have a zero value.",
-                    {"1", "2", ".1", ".25", "1", ".5", ".0625", "0"}},
-        // A negative depth turns positive, then the negative feed flips it back
-        RefusalCase{{"1", "2", ".1", "-.25", "1", "0", ".0625", "-5", 0, 0, false, {}},
-                    "Error, Tool Diameter cannot have a zero value.",
-                    {"1", "2", ".1", "-.25", "1", "0", ".0625", "-5"}},
-        RefusalCase{{"0", "0", ".1", ".5", "1", ".91", ".125", "5", 0, 1, false, {}},
-                    "Error, Tool Diameter greater than 90% of Major.",
-                    {"0", "0", ".1", ".5", "1", ".91", ".125", "5"}},
-        RefusalCase{{"0", "0", ".1", ".5", "1", ".9000001", ".125", "5", 1, 1, true, {}},
-                    "Error, Tool Diameter greater than 90% of Major.",
-                    {"0", "0", ".1", ".5", "1", ".9000001", ".125", "5"}}));
-
-TEST(ThreadMilling, AnExternalThreadHasNoToolLimit) {
-    Harness h;
-    Form& f = h.open("frmThdMill");
-    Fill(h, f, ThreadCase{"0", "0", ".1", ".5", "1", "3", ".125", "5", 0, 0, false, {}});
-    h.click(f, "Command1");
-    EXPECT_TRUE(h.ui.messages.empty());
-    EXPECT_TRUE(
-        f.text("fld_TM_Answer").startsWith("G00 G90 X0.0 Y0.0\r\nZ0.1\r\nG00 G91 X3.5\r\n"));
+TEST(ThreadMilling, HandlerRows) {
+    const struct {
+        const char* steps;
+        const char* said;             // the message, or the start of the program
+        const char* after = nullptr;  // the fields afterwards when repaired
+    } rows[] = {
+        {"1a|y|z|0|0|0|0|0", "Invalid data in X Pos field"},
+        {"|+2|z|-1|0|0|0|0", "Invalid data in Y Pos field"},
+        {"|| .1|-1|0|0|0|0", "Invalid data in Z Start field"},
+        {"|-0||-.5|-1|-.5|0|0", "Error, pitch cannot have a zero value.", "0|0|0|.5|1|.5|0|0"},
+        {"1|2|.1|abc|1|.5|-.0625|5", "Error, depth cannot have a zero value.",
+         "1|2|.1|abc|1|.5|.0625|5"},
+        {"1|2|.1|.5|0||.0625|", "Error, Tool Diameter cannot have a zero value."},
+        {"1|2|.1|.5|x|.5|.0625|0", "Error, Major cannot have a zero value."},
+        {"1|2|.1|-.25|1|.5|.0625|0", "Error, Feedrate should not have a zero value.",
+         "1|2|.1|.25|1|.5|.0625|0"},
+        // made positive, then flipped back by the negative feed
+        {"1|2|.1|-.25|1|0|.0625|-5", "Error, Tool Diameter cannot have a zero value."},
+        {"0|0|.1|.5|1|.91|.125|5|popTM_Thread#1",
+         "Error, Tool Diameter greater than 90% of Major."},
+        {"0|0|.1|.5|1|.5|.125|-5|popTM_Tool#1|Checkbox1208",
+         "N10 G00 G90 X0.0 Y0.0\r\nN15 Z0.1\r\nN20 G00 G91 X1.0\r\nN25 G01 G90 Z0.15625 F-5.0\r\n",
+         "0|0|.1|-.5|1|.5|.125|-5"},
+        {"0|0|.1|.5|1|.5|.125|5|popTM_Thread=Ext.", "Calculating..."},
+    };
+    for (const auto& row : rows) {
+        testing::Harness h;
+        Form& f = Mill(h, row.steps + QString("|Command1"));
+        if (h.ui.messageTexts().isEmpty()) {
+            EXPECT_TRUE(f.text("fld_TM_Answer").startsWith(row.said)) << row.steps;
+        } else {
+            EXPECT_EQ(h.ui.messageTexts(), QStringList{row.said}) << row.steps;
+            EXPECT_EQ(f.text("fld_TM_Answer"), "") << row.steps;
+        }
+        EXPECT_EQ(Fields(f), row.after ? row.after : QString(row.steps).section('|', 0, 7))
+            << row.steps;
+    }
 }
 
-TEST(ThreadMilling, TheLabelTableCarriesOverBetweenRuns) {
-    Harness h;
-    Form& f = h.open("frmThdMill");
-    // 17 turns, numbered: labels 1 to 36 are written, the program uses 27.
-    Fill(h, f, ThreadCase{"0", "0", ".1", "1", "1", ".5", ".0625", "5", 1, 0, true, {}});
-    h.click(f, "Command1");
-    const QStringList first = f.text("fld_TM_Answer").split("\r\n");
-    ASSERT_EQ(first.size(), 27);
-    EXPECT_EQ(first.back(), "N140 X0.0 Y0.0");
-    EXPECT_EQ(h.app.blockLabels[36], "N185 ");
-    EXPECT_EQ(h.app.blockLabels.next, 28);
-    // The hob mill, box clear: labels 1 to 12 are emptied, the rest stay.
-    Fill(h, f, ThreadCase{"0", "0", ".1", "1", "1", ".5", ".0625", "5", 0, 0, false, {}});
-    h.click(f, "Command1");
-    const QStringList second = f.text("fld_TM_Answer").split("\r\n");
-    ASSERT_EQ(second.size(), 12);
-    EXPECT_EQ(second.front(), "G00 G90 X0.0 Y0.0");
-    EXPECT_EQ(second.back(), "X0.0 Y0.0");
-    EXPECT_EQ(h.app.blockLabels[12], "");
-    EXPECT_EQ(h.app.blockLabels[13], "N70 ");
-    // A negative feed makes the depth -1: only Int(-16 + 20) = 4 labels are
-    // written, and the turns take the labels of the first run.
-    Fill(h, f, ThreadCase{"0", "0", ".1", "1", "1", ".5", ".0625", "-5", 1, 0, false, {}});
-    h.click(f, "Command1");
-    EXPECT_EQ(f.text("fld_TM_Depth"), "-1");
-    QStringList expected{"G00 G90 X0.0 Y0.0", "Z0.1",
-                         "G00 G91 X1.0",      "G01 G90 Z0.07813 F-5.0",
-                         "G01 G91 G41 Y0.25", "G03 X-0.25 Y-0.25 Z-0.01563 I0.0 J-0.25"};
-    for (int i = 0; i < 6; ++i) {
-        expected << "G02 Z-0.0625 I-0.75";
-    }
-    for (int number = 70; number <= 120; number += 5) {
-        expected << "N" + QString::number(number) + " G02 Z-0.0625 I-0.75";
-    }
-    expected << "N125 G03 X0.25 Y-0.25 Z-0.01563 I0.25 J0.0"
-             << "N130 G01 G40 Y0.25"
-             << "N135 G00 G90 Z0.1"
-             << "N140 X0.0 Y0.0";
-    EXPECT_EQ(f.text("fld_TM_Answer").split("\r\n"), expected);
-    // The table belongs to the program, not to the window.
-    h.app.userClose(f);
-    EXPECT_EQ(h.app.blockLabels[13], "N70 ");
-}
-
-struct FatalCase {
-    const char* depth;
-    const char* pitch;
-    const char* feed;
-    int toolType;
-    bool numbered;
-    const char* fatal;  // empty: the program is written
-};
-
-class ThreadMillingLabelLimit : public ::testing::TestWithParam<FatalCase> {};
-
-TEST_P(ThreadMillingLabelLimit, MoreThan300LabelsIsFatal) {
-    const FatalCase& c = GetParam();
-    Harness h;
-    Form& f = h.open("frmThdMill");
-    Fill(h, f,
-         ThreadCase{
-             "0", "0", ".1", c.depth, "1", ".5", c.pitch, c.feed, c.toolType, 0, c.numbered, {}});
-    h.click(f, "Command1");
-    if (*c.fatal == '\0') {
-        EXPECT_TRUE(h.ui.fatals.empty());
-        EXPECT_TRUE(f.text("fld_TM_Answer").startsWith("G00") ||
-                    f.text("fld_TM_Answer").startsWith("N10 G00"));
-        return;
-    }
-    ASSERT_EQ(h.ui.fatals.size(), 1u);
-    EXPECT_EQ(h.ui.fatals[0].text, QString::fromLatin1(c.fatal));
+TEST(ThreadMilling, MoreThan300LabelsIsFatal) {
+    testing::Harness h;
+    Form& f = Mill(h, "0|0|.1|281|1|.5|1|5|popTM_Tool#1|Command1");
+    EXPECT_EQ(h.ui.fatalTexts(), QStringList{"Run-time error '9':\r\n\r\nSubscript out of range"});
     EXPECT_EQ(f.text("fld_TM_Answer"), "Calculating...");
     EXPECT_TRUE(h.app.ended());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Table, ThreadMillingLabelLimit,
-    ::testing::Values(
-        // D / P 280: 300 labels, 281 turns
-        FatalCase{"280", "1", "5", 1, true, ""}, FatalCase{"280", "1", "5", 1, false, ""},
-        // D / P 281: label 301
-        FatalCase{"281", "1", "5", 1, false, "Run-time error '9':\r\n\r\nSubscript out of range"},
-        FatalCase{"28.1", ".1", "5", 1, true, "Run-time error '9':\r\n\r\nSubscript out of range"},
-        // The hob mill needs 12 labels whatever the depth
-        FatalCase{"281", "1", "5", 0, true, ""},
-        // A flipped depth writes no labels; the turns and the lines behind
-        // them reach label 300 at D / P 289
-        FatalCase{"289", "1", "-5", 1, false, ""},
-        FatalCase{"290", "1", "-5", 1, false, "Run-time error '9':\r\n\r\nSubscript out of range"},
-        FatalCase{"295", "1", "-5", 1, false, "Run-time error '9':\r\n\r\nSubscript out of range"},
-        // Int(D / P + 20) beyond 16 bits
-        FatalCase{"40000", "1", "5", 1, false, "Run-time error '6':\r\n\r\nOverflow"}));
-
-TEST(ThreadMilling, TheLongestSinglePointProgram) {
-    Harness h;
-    Form& f = h.open("frmThdMill");
-    Fill(h, f, ThreadCase{"0", "0", ".1", "280", "1", ".5", "1", "5", 1, 0, true, {}});
-    h.click(f, "Command1");
-    const QStringList lines = f.text("fld_TM_Answer").split("\r\n");
-    ASSERT_EQ(lines.size(), 291);
-    EXPECT_EQ(lines[3], "N25 G01 G90 Z1.25 F5.0");
-    EXPECT_EQ(lines[6], "N40 G02 Z-1.0 I-0.75");
-    EXPECT_EQ(lines[286], "N1440 G02 Z-1.0 I-0.75");
-    EXPECT_EQ(lines[290], "N1460 X0.0 Y0.0");
-    EXPECT_EQ(h.app.blockLabels[300], "N1505 ");
-}
-
-TEST(ThreadMilling, ATypedThreadTypeSelectsNoProgram) {
-    Harness h;
-    Form& f = h.open("frmThdMill");
-    Fill(h, f, ThreadCase{"0", "0", ".1", ".5", "1", ".5", ".125", "5", 0, 0, true, {}});
-    h.set(f, "popTM_Thread", "Ext.");
-    EXPECT_EQ(f.listIndex("popTM_Thread"), -1);
-    h.click(f, "Command1");
-    EXPECT_TRUE(h.ui.messages.empty());
-    EXPECT_EQ(f.text("fld_TM_Answer"), "Calculating...");
-    // The labels were written all the same.
-    EXPECT_EQ(h.app.blockLabels[12], "N65 ");
-}
-
 TEST(ThreadMilling, LoadsWithTheFirstItemsAndClearAllLeavesTheChoices) {
-    Harness h;
+    testing::Harness h;
     Form& f = h.open("frmThdMill");
-    EXPECT_EQ(f.title(), "Thread Milling");
-    EXPECT_EQ(f.listIndex("popTM_Tool"), 0);
-    EXPECT_EQ(f.text("popTM_Tool"), "Hob-Mill");
-    EXPECT_EQ(f.listIndex("popTM_Thread"), 0);
-    EXPECT_EQ(f.text("popTM_Thread"), "Ext.");
-    EXPECT_EQ(f.control("popTM_Tool").items, QStringList({"Hob-Mill", "Single Pt."}));
-    EXPECT_EQ(f.control("popTM_Thread").items, QStringList({"Ext.", "Int."}));
-    EXPECT_EQ(f.caption("Checkbox1208"), "Use \"N\" numbers");
-    Fill(h, f, ThreadCase{"0", "0", ".1", ".5", "1", ".5", ".125", "5", 1, 1, true, {}});
-    h.click(f, "Command1");
-    h.click(f, "Command2");
-    for (const char* name : kFields) {
-        EXPECT_EQ(f.text(name), "") << name;
-    }
-    EXPECT_EQ(f.text("fld_TM_Answer"), "");
-    EXPECT_EQ(f.listIndex("popTM_Tool"), 1);
-    EXPECT_EQ(f.listIndex("popTM_Thread"), 1);
-    EXPECT_TRUE(f.value("Checkbox1208"));
-}
-
-TEST(ThreadMilling, TheHubOpensIt) {
-    Harness h;
-    Form& hub = h.open("frmQuickCode");
-    h.click(hub, "Command3");
-    EXPECT_NE(h.app.find("frmThdMill"), nullptr);
+    EXPECT_EQ(f.text("popTM_Tool") + f.text("popTM_Thread"), "Hob-MillExt.");
+    Mill(h, "0|0|.1|.5|1|.5|.125|5|popTM_Tool#1|popTM_Thread#1|Checkbox1208|Command1|Command2");
+    EXPECT_EQ(Fields(f) + f.text("fld_TM_Answer"), "|||||||");
+    EXPECT_EQ(f.text("popTM_Tool") + f.text("popTM_Thread"), "Single Pt.Int.");
 }
 
 }  // namespace
