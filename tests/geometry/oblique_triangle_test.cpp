@@ -13,14 +13,12 @@ const char* const kInvalid = "Error, Invalid Input";
 
 // Sides to four places, angles to `anglePlaces`, the area to four.
 QString Brief(const ObliqueTriangle& t, Real area, int anglePlaces) {
+    const Real values[] = {t.a, t.b, t.c, t.A, t.B, t.C, area};
     QString text;
-    for (Real side : {t.a, t.b, t.c}) {
-        text += NumToStr(RoundTo(side, 4));
+    for (int i = 0; i < 7; ++i) {
+        text += NumToStr(RoundTo(values[i], i >= 3 && i <= 5 ? anglePlaces : 4));
     }
-    for (Real angle : {t.A, t.B, t.C}) {
-        text += NumToStr(RoundTo(angle, anglePlaces));
-    }
-    return text + NumToStr(RoundTo(area, 4));
+    return text;
 }
 
 // The solver's steps in the window's order: the triangle, then the second
@@ -61,7 +59,9 @@ TEST(ObliqueSolver, OneRowPerKnownTripleBranchAndMessage) {
         {{5, 6, 0, 0, 40, 0}, " 5 6 8.8968 32.388434 40 107.611566 14.2969", "a b B"},
         {{4, 0, 6, 0, 120, 0}, " 4 8.7178 6 23.413224 120 36.586776 10.3923", "a c B"},
         {{2.75, 0, 0, 0, 20, 30}, " 2.75 1.2278 1.7949 130 20 30 .8441", "a B C"},
-        {{10, 0, 0, 100, 0, 30}, " 10 7.7786 5.0771 100 50 30 19.4465", "a A C"},
+        {{10, 0, 0, 100, 0, 79.5},
+         " 10 .0886 9.9842 100 .5 79.5 .4356",
+         "a A C, a third angle under 1"},
         {{5, 0, 6, 0, 0, 40}, " 5 8.8968 6 32.388434 107.611566 40 14.2969", "a c C"},
         {{0, 3, 4, 90, 0, 0}, " 5 3 4 90 36.869898 53.130102 6", "b c A"},
         {{0, 9, 8, 0, 40, 0}, " 13.5146 9 8 105.154411 40 34.845589 34.7481", "b c B"},
@@ -116,6 +116,11 @@ TEST(ObliqueSolver, OneRowPerKnownTripleBranchAndMessage) {
         {{2, 1, 1, 0, 0, 0}, kInvalid, "three sides: cosine of -1"},
         {{-3, -4, -5, 0, 0, 0}, kInvalid, "negative sides: the circumscribed circle"},
         {{1, 2, 0, 0, 0, 1E-6}, "flat", "a flat triangle: the caller's message"},
+        {{0, 1, 2, 1E-6, 0, 0}, "flat", "flat with the third side the longest"},
+        {{5, 0, 0, 0, 0, 0}, "flat", "no known triple, as a packed 0 leaves"},
+        {{0.5, 0.75, 0.75, 0, 0, 0},
+         " .5 .75 .75 38.942441 70.528779 70.528779 .1768",
+         "s of 1, a circle under 1"},
     };
     for (const SolverRow& r : rows) {
         EXPECT_EQ(Solved(r.known), r.solved) << r.guards;
@@ -170,18 +175,18 @@ TEST(Oblique, HandlerRows) {
 
 TEST(Oblique, TheWholeAnswerOfOneTriangleAndOfTwo) {
     Harness h;
-    h.app.decPlace = 1;  // the area alone follows it
+    h.app.decPlace = 3;  // the area alone follows it
     Form& f =
-        h.run("frmOblique", {"txtO_Side_a=5", "txtO_Angle_A=40", "txtO_Angle_B=60", "cmdOblCalc"});
+        h.run("frmOblique", {"txtO_Side_c=3", "txtO_Angle_A=20", "txtO_Angle_B=30", "cmdOblCalc"});
     EXPECT_EQ(f.text("txtOblAns"),
-              "Side a=  5\r\nSide b=  6.7365\r\nSide c=  7.6604\r\nAngle A DD=  40\r\n"
-              "Angle A DMS=  40°  0'  0\"\r\nAngle B DD=  60\r\nAngle B DMS=  60°  0'  0\"\r\n"
-              "Angle C DD=  80\r\nAngle C DMS=  80°  0'  0\"\r\nArea=  16.6\r\n"
-              "Perimeter=  19.3969\r\nInscribed CircleØ=  3.4202\r\n"
-              "Circumscribed CircleØ=  7.7786\r\n\r\n");
+              "Side a=  1.3394\r\nSide b=  1.9581\r\nSide c=  3\r\nAngle A DD=  20\r\n"
+              "Angle A DMS=  20°  0'  0\"\r\nAngle B DD=  30\r\nAngle B DMS=  30°  0'  0\"\r\n"
+              "Angle C DD=  130\r\nAngle C DMS=  130°  0'  0\"\r\nArea=  1.005\r\n"
+              "Perimeter=  6.2975\r\nInscribed CircleØ=  .6381\r\n"
+              "Circumscribed CircleØ=  3.9162\r\n\r\n");
     h.app.decPlace = 4;
-    h.run("frmOblique",
-          {"cmdOblDone", "txtO_Angle_B=", "txtO_Side_a=6", "txtO_Side_b=8", "cmdOblCalc"});
+    h.run("frmOblique", {"cmdOblDone", "cmdOblClear", "txtO_Side_a=6", "txtO_Side_b=8",
+                         "txtO_Angle_A=40", "cmdOblCalc"});
     EXPECT_EQ(f.text("txtOblAns"),
               "Side a=  6\r\nSide b=  8\r\nSide c=  9.2198\r\nAngle A DD=  40\r\n"
               "Angle A DMS=  40°  0'  0\"\r\nAngle B DD=  58.98697\r\n"
