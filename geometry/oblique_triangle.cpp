@@ -2,6 +2,8 @@
 // sides a, b, c and angles A, B, C, side a facing angle A and so on. Two sides
 // and an angle not between them may allow two triangles; both are answered.
 
+#include "geometry/oblique_triangle.h"
+
 #include "frame/angles.h"
 #include "frame/app.h"
 #include "frame/form.h"
@@ -24,29 +26,6 @@ const QStringList kEntries{
     "chkDMSObl",   "lbla",        "lblb",         "lblc",         "lblAAng",      "lblBAng",
     "lblCAng",     "lblOblSides", "lblOblAngles", "cmdOblCalc",   "cmdOblClear",  "cmdODone"};
 
-struct Triangle {
-    Real a, b, c;
-    Real A, B, C;
-
-    // Sides by their lower-case letter, angles by the upper-case one.
-    Real& operator[](QChar letter) {
-        switch (letter.unicode()) {
-            case 'a':
-                return a;
-            case 'b':
-                return b;
-            case 'c':
-                return c;
-            case 'A':
-                return A;
-            case 'B':
-                return B;
-            default:
-                return C;
-        }
-    }
-};
-
 Real S(Real x) {
     return SinDeg(x);
 }
@@ -55,40 +34,47 @@ Real Q(Real x) {
     return Square(x);
 }
 
-void AnswerLayout(Form& f, bool answer) {
-    ShowAnswerBox(f, kEntries, {"txtOblAns", "cmdOblDone"}, answer);
+}  // namespace
+
+Real& ObliqueTriangle::operator[](QChar letter) {
+    switch (letter.unicode()) {
+        case 'a':
+            return a;
+        case 'b':
+            return b;
+        case 'c':
+            return c;
+        case 'A':
+            return A;
+        case 'B':
+            return B;
+        default:
+            return C;
+    }
 }
 
-// The message, and back to the entries; the answer box keeps what it had.
-bool Fail(Form& f, const QString& message) {
-    ProgramMessage(f, message);
-    AnswerLayout(f, false);
-    return false;
-}
-
-// The semi-perimeter, area and circumscribed-circle tests; k is the area.
-bool Measure(Form& f, const Triangle& t, Real& k, const QString& flatMessage) {
+QString MeasureOblique(const ObliqueTriangle& t, const QString& flatMessage, Real& area) {
     const Real s = 0.5 * ((t.a + t.b) + t.c);
     if (s == 0) {
-        return Fail(f, kInvalid);
+        return kInvalid;
     }
     if (((s - t.a) * (s - t.b) * (s - t.c)) / s <= 0) {
-        return Fail(f, flatMessage);
+        return flatMessage;
     }
-    k = Sqr((s - t.a) * s * (s - t.b) * (s - t.c));
-    if (((t.a * t.b * t.c) * 2) / (4 * k) <= 0) {
-        return Fail(f, kInvalid);
+    area = Sqr((s - t.a) * s * (s - t.b) * (s - t.c));
+    if (((t.a * t.b * t.c) * 2) / (4 * area) <= 0) {
+        return kInvalid;
     }
-    return true;
+    return QString();
 }
 
-// The answer lines. The second triangle has always read "Angle C= " and four
-// places on its decimal angles; both stay as users know them.
-QString AnswerLines(const Triangle& t, Real k, int decPlace, bool second) {
+// The second triangle has always read "Angle C= " and four places on its
+// decimal angles; both stay as users know them.
+QString ObliqueAnswerLines(const ObliqueTriangle& t, Real area, int decPlace, bool second) {
     const int anglePlaces = second ? 4 : 6;
     const Real p = (t.a + t.b) + t.c;
-    const Real d1 = ((2 * k) * 2) / p;
-    const Real d2 = ((t.a * t.b * t.c) * 2) / (4 * k);
+    const Real d1 = ((2 * area) * 2) / p;
+    const Real d2 = ((t.a * t.b * t.c) * 2) / (4 * area);
     QStringList l;
     l << "Side a= " + NumToStr(RoundTo(t.a, 4));
     l << "Side b= " + NumToStr(RoundTo(t.b, 4));
@@ -99,21 +85,28 @@ QString AnswerLines(const Triangle& t, Real k, int decPlace, bool second) {
     l << "Angle B DMS= " + DdToDmsText(NumToStr(t.B));
     l << QString(second ? "Angle C= " : "Angle C DD= ") + NumToStr(RoundTo(t.C, anglePlaces));
     l << "Angle C DMS= " + DdToDmsText(NumToStr(t.C));
-    l << "Area= " + NumToStr(RoundTo(k, decPlace));
+    l << "Area= " + NumToStr(RoundTo(area, decPlace));
     l << "Perimeter= " + NumToStr(RoundTo(p, 4));
     l << "Inscribed Circle" + QString(kDiameterSign) + "= " + NumToStr(RoundTo(d1, 4));
     l << "Circumscribed Circle" + QString(kDiameterSign) + "= " + NumToStr(RoundTo(d2, 4));
     return l.join("\r\n");
 }
 
+namespace {
+
+// The third angle from the other two; none left is no triangle.
+bool ThirdAngle(Real& third, Real one, Real two) {
+    third = 180 - (one + two);
+    return third > 0;
+}
+
 // The other triangle of the ambiguous case: p1 faces the known angle p3, p2 is
-// the other known side; the mode's letters name p2, p1 and p3. Empty when
-// there is none; false when a test failed and its message is out.
-bool SecondTriangle(Form& f, Real p1, Real p2, Real p3, const QString& mode, QString& text) {
-    text.clear();
+// the other known side; the mode's letters name p2, p1 and p3. The refusal of
+// its tests, or an empty text, with or without a second triangle.
+QString FindSecond(Real p1, Real p2, Real p3, const QString& mode, SecondSolution& second) {
     const Real h = SinDeg(p3) * p2;
     if (p1 <= h || p1 >= p2) {
-        return true;
+        return QString();
     }
     const Real angle1 = ArcSinDeg(h / p1);
     const Real t1 = CosDeg(angle1) * p1;
@@ -125,28 +118,22 @@ bool SecondTriangle(Form& f, Real p1, Real p2, Real p3, const QString& mode, QSt
     while (third == side1 || third == side2) {
         third = QChar(third.unicode() + 1);
     }
-    Triangle t;
+    ObliqueTriangle& t = second.t;
     t[side2] = p2;
     t[side1] = p1;
     t[angle] = p3;
     t[side2.toUpper()] = 180 - angle1;
     t[third.toUpper()] = 180 - ((180 - angle1) + p3);
     t[third] = t2 - t1;
-    Real k;
-    if (!Measure(f, t, k, kInvalid)) {
-        return false;
-    }
-    ProgramMessage(f, "There are two solutions possible, both will be calculated.");
-    f.setText("txtOblAns", "Calculating two solutions...");
-    text = "***Second Solution***\r\n" + AnswerLines(t, k, f.app().decPlace, true);
-    return true;
+    second.exists = true;
+    return MeasureOblique(t, kInvalid, second.area);
 }
 
 // The known triples, in the order in which they are tried.
 const char* const kRows[] = {"aAB", "abC", "abA", "abc", "acA", "bBC", "abB", "acB", "aBC", "aAC",
                              "acC", "bcA", "bcB", "bAB", "bAC", "bcC", "cAB", "cAC", "cBC"};
 
-bool Known(Triangle& t, const char* row) {
+bool Known(ObliqueTriangle& t, const char* row) {
     for (const char* p = row; *p != 0; ++p) {
         if (t[QChar::fromLatin1(*p)] == 0) {
             return false;
@@ -155,17 +142,9 @@ bool Known(Triangle& t, const char* row) {
     return true;
 }
 
-// The third angle from the other two; none left is no triangle.
-bool ThirdAngle(Form& f, Real& third, Real one, Real two) {
-    third = 180 - (one + two);
-    if (third <= 0) {
-        return Fail(f, kInvalid);
-    }
-    return true;
-}
+}  // namespace
 
-// Solves the first row whose values are all known. False when a message is out.
-bool Solve(Form& f, Triangle& t, QString& second) {
+QString SolveOblique(ObliqueTriangle& t, Ambiguous& pending) {
     int row = 0;
     for (int i = 0; i < static_cast<int>(std::size(kRows)); ++i) {
         if (Known(t, kRows[i])) {
@@ -178,179 +157,206 @@ bool Solve(Form& f, Triangle& t, QString& second) {
     switch (row) {
         case 1:
             t.b = (t.a * S(t.B)) / S(t.A);
-            if (!ThirdAngle(f, t.C, t.A, t.B))
-                return false;
+            if (!ThirdAngle(t.C, t.A, t.B))
+                return kInvalid;
             t.c = (t.a * S(t.C)) / S(t.A);
-            return true;
+            return QString();
         case 2:
             if (t.C >= 180)
-                return Fail(f, kInvalid);
+                return kInvalid;
             t.c = Sqr(Q(t.a) + Q(t.b) - ((2 * t.a) * t.b) * CosDeg(t.C));
             v = (Q(t.c) + Q(t.b) - Q(t.a)) / ((2 * t.c) * t.b);
             if (v <= -1 || v >= 1)
-                return Fail(f, "Error, Invalid Input.");
+                return "Error, Invalid Input.";
             t.A = ArcCosDeg(v);
             t.B = 180 - (t.A + t.C);
-            return true;
+            return QString();
         case 3:
             if (t.A >= 180)
-                return Fail(f, kInvalid);
+                return kInvalid;
             r = (t.b * S(t.A)) / t.a;
             if (r <= -1 || r >= 1)
-                return Fail(f, kInvalid);
-            if (!SecondTriangle(f, t.a, t.b, t.A, "baA", second))
-                return false;
-            t.B = ArcSinDeg(r);
-            t.C = 180 - (t.A + t.B);
-            t.c = (t.a * S(t.C)) / S(t.A);
-            return true;
+                return kInvalid;
+            pending = {row, r, {}};
+            return FindSecond(t.a, t.b, t.A, "baA", pending.second);
         case 4: {
             const Real u = (Q(t.b) + Q(t.c) - Q(t.a)) / ((2 * t.b) * t.c);
             v = (Q(t.a) + Q(t.c) - Q(t.b)) / ((2 * t.a) * t.c);
             const Real w = (Q(t.a) + Q(t.b) - Q(t.c)) / ((2 * t.a) * t.b);
             // Only u is tested.
             if (u <= -1 || u >= 1)
-                return Fail(f, kInvalid);
+                return kInvalid;
             t.A = RoundTo(ArcCosDeg(u), 6);
             t.B = RoundTo(ArcCosDeg(v), 6);
             t.C = RoundTo(ArcCosDeg(w), 6);
-            return true;
+            return QString();
         }
         case 5:
             if (t.A >= 180)
-                return Fail(f, kInvalid);
+                return kInvalid;
             r = (t.c * S(t.A)) / t.a;
             if (r <= -1 || r >= 1)
-                return Fail(f, kInvalid);
-            if (!SecondTriangle(f, t.a, t.c, t.A, "caA", second))
-                return false;
-            t.C = ArcSinDeg(r);
-            t.B = 180 - (t.A + t.C);
-            t.b = (t.a * S(t.B)) / S(t.A);
-            return true;
+                return kInvalid;
+            pending = {row, r, {}};
+            return FindSecond(t.a, t.c, t.A, "caA", pending.second);
         case 6:
             if (t.C >= 180)
-                return Fail(f, kInvalid);
-            if (!ThirdAngle(f, t.A, t.B, t.C))
-                return false;
+                return kInvalid;
+            if (!ThirdAngle(t.A, t.B, t.C))
+                return kInvalid;
             t.a = (S(t.A) * t.b) / S(t.B);
             t.c = (t.a * S(t.C)) / S(t.A);
-            return true;
+            return QString();
         case 7:
             if (t.B >= 180)
-                return Fail(f, kInvalid);
+                return kInvalid;
             r = (t.a * S(t.B)) / t.b;
             if (r <= -1 || r >= 1)
-                return Fail(f, "Invalid Input");
-            if (!SecondTriangle(f, t.b, t.a, t.B, "abB", second))
-                return false;
-            t.A = ArcSinDeg(r);
-            t.C = 180 - (t.A + t.B);
-            t.c = (t.b * S(t.C)) * (1 / S(t.B));
-            return true;
+                return "Invalid Input";
+            pending = {row, r, {}};
+            return FindSecond(t.b, t.a, t.B, "abB", pending.second);
         case 8:
             if (t.B >= 180)
-                return Fail(f, kInvalid);
+                return kInvalid;
             t.b = Sqr(Q(t.a) + Q(t.c) - ((2 * t.a) * t.c) * CosDeg(t.B));
             v = (Q(t.b) + Q(t.c) - Q(t.a)) / ((2 * t.b) * t.c);
             if (v <= -1 || v >= 1)
-                return Fail(f, kInvalid);
+                return kInvalid;
             t.A = ArcCosDeg(v);
             t.C = 180 - (t.A + t.B);
-            return true;
+            return QString();
         case 9:
-            if (!ThirdAngle(f, t.A, t.B, t.C))
-                return false;
+            if (!ThirdAngle(t.A, t.B, t.C))
+                return kInvalid;
             t.b = (t.a * S(t.B)) / S(t.A);
             t.c = (t.a * S(t.C)) / S(t.A);
-            return true;
+            return QString();
         case 10:
-            if (!ThirdAngle(f, t.B, t.A, t.C))
-                return false;
+            if (!ThirdAngle(t.B, t.A, t.C))
+                return kInvalid;
             t.b = (t.a * S(t.B)) / S(t.A);
             t.c = (t.a * S(t.C)) / S(t.A);
-            return true;
+            return QString();
         case 11:
             if (t.C >= 180)
-                return Fail(f, kInvalid);
+                return kInvalid;
             r = (t.a * S(t.C)) / t.c;
             if (r <= -1 || r >= 1)
-                return Fail(f, kInvalid);
-            if (!SecondTriangle(f, t.c, t.a, t.C, "acC", second))
-                return false;
-            t.A = ArcSinDeg(r);
-            t.B = 180 - (t.A + t.C);
-            t.b = (t.a * S(t.B)) / S(t.A);
-            return true;
+                return kInvalid;
+            pending = {row, r, {}};
+            return FindSecond(t.c, t.a, t.C, "acC", pending.second);
         case 12:
             if (t.A >= 180)
-                return Fail(f, kInvalid);
+                return kInvalid;
             t.a = Sqr(Q(t.b) + Q(t.c) - ((2 * t.b) * t.c) * CosDeg(t.A));
             v = (Q(t.a) + Q(t.c) - Q(t.b)) / ((2 * t.a) * t.c);
             if (v <= -1 || v >= 1)
-                return Fail(f, "Error, Invalid Input.");
+                return "Error, Invalid Input.";
             t.B = ArcCosDeg(v);
             t.C = 180 - (t.A + t.B);
-            return true;
+            return QString();
         case 13:
             if (t.B >= 180)
-                return Fail(f, kInvalid);
+                return kInvalid;
             r = (t.c * S(t.B)) / t.b;
             if (r <= -1 || r >= 1)
-                return Fail(f, "Invalid Input");
-            if (!SecondTriangle(f, t.b, t.c, t.B, "cbB", second))
-                return false;
-            t.C = ArcSinDeg(r);
-            t.A = 180 - (t.B + t.C);
-            t.a = (S(t.A) * t.b) / S(t.B);
-            return true;
+                return "Invalid Input";
+            pending = {row, r, {}};
+            return FindSecond(t.b, t.c, t.B, "cbB", pending.second);
         case 14:
-            if (!ThirdAngle(f, t.C, t.A, t.B))
-                return false;
+            if (!ThirdAngle(t.C, t.A, t.B))
+                return kInvalid;
             t.a = (S(t.A) * t.b) / S(t.B);
             t.c = (t.a * S(t.C)) / S(t.A);
-            return true;
+            return QString();
         case 15:
-            if (!ThirdAngle(f, t.B, t.A, t.C))
-                return false;
+            if (!ThirdAngle(t.B, t.A, t.C))
+                return kInvalid;
             t.a = (S(t.A) * t.b) / S(t.B);
             t.c = (t.a * S(t.C)) / S(t.A);
-            return true;
+            return QString();
         case 16:
             if (t.C >= 180)
-                return Fail(f, kInvalid);
+                return kInvalid;
             r = (t.b * S(t.C)) / t.c;
             if (r <= -1 || r >= 1)
-                return Fail(f, "Invalid Input");
-            if (!SecondTriangle(f, t.c, t.b, t.C, "bcC", second))
-                return false;
-            t.B = ArcSinDeg(r);
-            t.A = 180 - (t.B + t.C);
-            t.a = (S(t.A) * t.b) / S(t.B);
-            return true;
+                return "Invalid Input";
+            pending = {row, r, {}};
+            return FindSecond(t.c, t.b, t.C, "bcC", pending.second);
         case 17:
-            if (!ThirdAngle(f, t.C, t.A, t.B))
-                return false;
+            if (!ThirdAngle(t.C, t.A, t.B))
+                return kInvalid;
             t.a = (S(t.A) * t.c) / S(t.C);
             t.b = (t.a * S(t.B)) / S(t.A);
-            return true;
+            return QString();
         case 18:
-            if (!ThirdAngle(f, t.B, t.A, t.C))
-                return false;
+            if (!ThirdAngle(t.B, t.A, t.C))
+                return kInvalid;
             t.a = (S(t.A) * t.c) / S(t.C);
             t.b = (t.a * S(t.B)) / S(t.A);
-            return true;
+            return QString();
         case 19:
-            if (!ThirdAngle(f, t.A, t.B, t.C))
-                return false;
+            if (!ThirdAngle(t.A, t.B, t.C))
+                return kInvalid;
             t.a = (S(t.A) * t.c) / S(t.C);
             t.b = (t.a * S(t.B)) / S(t.A);
-            return true;
+            return QString();
         default:
             // A packed angle that converts to 0 leaves no row; the tests
             // below then find no triangle.
-            return true;
+            return QString();
     }
+}
+
+void SolveFirstOfTwo(ObliqueTriangle& t, const Ambiguous& pending) {
+    const Real r = pending.ratio;
+    switch (pending.row) {
+        case 3:
+            t.B = ArcSinDeg(r);
+            t.C = 180 - (t.A + t.B);
+            t.c = (t.a * S(t.C)) / S(t.A);
+            break;
+        case 5:
+            t.C = ArcSinDeg(r);
+            t.B = 180 - (t.A + t.C);
+            t.b = (t.a * S(t.B)) / S(t.A);
+            break;
+        case 7:
+            t.A = ArcSinDeg(r);
+            t.C = 180 - (t.A + t.B);
+            t.c = (t.b * S(t.C)) * (1 / S(t.B));
+            break;
+        case 11:
+            t.A = ArcSinDeg(r);
+            t.B = 180 - (t.A + t.C);
+            t.b = (t.a * S(t.B)) / S(t.A);
+            break;
+        case 13:
+            t.C = ArcSinDeg(r);
+            t.A = 180 - (t.B + t.C);
+            t.a = (S(t.A) * t.b) / S(t.B);
+            break;
+        case 16:
+            t.B = ArcSinDeg(r);
+            t.A = 180 - (t.B + t.C);
+            t.a = (S(t.A) * t.b) / S(t.B);
+            break;
+        default:
+            // Not an ambiguous triple: solved already.
+            break;
+    }
+}
+
+namespace {
+
+void AnswerLayout(Form& f, bool answer) {
+    ShowAnswerBox(f, kEntries, {"txtOblAns", "cmdOblDone"}, answer);
+}
+
+// The message, and back to the entries; the answer box keeps what it had.
+void Fail(Form& f, const QString& message) {
+    ProgramMessage(f, message);
+    AnswerLayout(f, false);
 }
 
 void Calculate(Form& f) {
@@ -393,19 +399,32 @@ void Calculate(Form& f) {
     auto angleOf = [&](const QString& name) {
         return dms ? ValOf(DmsTextToDd(f.text(name))) : ValOf(f.text(name));
     };
-    Triangle t{ValOf(f.text("txtO_Side_a")), ValOf(f.text("txtO_Side_b")),
-               ValOf(f.text("txtO_Side_c")), angleOf("txtO_Angle_A"),
-               angleOf("txtO_Angle_B"),      angleOf("txtO_Angle_C")};
-    QString second;
-    if (!Solve(f, t, second)) {
+    ObliqueTriangle t{ValOf(f.text("txtO_Side_a")), ValOf(f.text("txtO_Side_b")),
+                      ValOf(f.text("txtO_Side_c")), angleOf("txtO_Angle_A"),
+                      angleOf("txtO_Angle_B"),      angleOf("txtO_Angle_C")};
+    Ambiguous pending;
+    const QString refusal = SolveOblique(t, pending);
+    if (!refusal.isEmpty()) {
+        Fail(f, refusal);
         return;
     }
+    const int decPlace = f.app().decPlace;
+    QString second;
+    if (pending.second.exists) {
+        ProgramMessage(f, "There are two solutions possible, both will be calculated.");
+        f.setText("txtOblAns", "Calculating two solutions...");
+        second = "***Second Solution***\r\n" +
+                 ObliqueAnswerLines(pending.second.t, pending.second.area, decPlace, true);
+    }
+    SolveFirstOfTwo(t, pending);
     Real k;
-    if (!Measure(f, t, k, "invalid input")) {
+    const QString flat = MeasureOblique(t, "invalid input", k);
+    if (!flat.isEmpty()) {
+        Fail(f, flat);
         return;
     }
     // The blank line after the first answer stands with or without a second.
-    f.setText("txtOblAns", AnswerLines(t, k, f.app().decPlace, false) + "\r\n\r\n" + second);
+    f.setText("txtOblAns", ObliqueAnswerLines(t, k, decPlace, false) + "\r\n\r\n" + second);
 }
 
 void EmptyFields(Form& f) {

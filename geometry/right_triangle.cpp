@@ -1,6 +1,8 @@
 // Right Triangle Trigonometry: a right triangle from two known values.
 // Side a is the hypotenuse; Angle B faces side b and Angle C faces side c.
 
+#include "geometry/right_triangle.h"
+
 #include "frame/angles.h"
 #include "frame/app.h"
 #include "frame/form.h"
@@ -25,15 +27,6 @@ constexpr KnownPair kPairs[] = {
     {"Angle C & side a", "C", "a"}, {"Angle C & side b", "C", "b"}, {"Angle C & side c", "C", "c"},
 };
 
-// The solved triangle; every case sets all five.
-struct Triangle {
-    Real a;
-    Real b;
-    Real c;
-    Real angleB;
-    Real angleC;
-};
-
 // The entry controls that give way to the answer box.
 const QStringList kEntries{"txtSideOne", "txtSideTwo", "popSides", "Command1",
                            "Command2",   "Command4",   "chkDMS"};
@@ -43,65 +36,67 @@ Real R6(Real x) {
     return RoundTo(x, 6);
 }
 
-void Solve(Form& f, int index, const QString& angleText, Triangle& t) {
-    const int rd = f.app().decPlace;
-    const QString one = f.text("txtSideOne");
-    const QString two = f.text("txtSideTwo");
-    auto RD = [rd](Real x) { return RoundTo(x, rd); };
-    const Real angle = ValOf(angleText);
+}  // namespace
+
+RightTriangle SolveRightTriangle(int index, Real one, Real two, int decPlace) {
+    auto RD = [decPlace](Real x) { return RoundTo(x, decPlace); };
+    // The known angle of cases 3 to 8.
+    const Real angle = one;
+    // Every case sets all five.
+    RightTriangle t;
     switch (index) {
         case 0:
-            t.a = ValOf(one);
-            t.b = ValOf(two);
+            t.a = one;
+            t.b = two;
             t.angleB = R6(ArcSinDeg(t.b / t.a));
             t.angleC = R6(90 - t.angleB);
-            t.c = RD(Sqr(SquareOfText(one) - SquareOfText(two)));
+            t.c = RD(Sqr(Square(one) - Square(two)));
             break;
         case 1:
-            t.b = ValOf(one);
-            t.c = ValOf(two);
+            t.b = one;
+            t.c = two;
             t.angleC = R6(Atn(t.c / t.b) * 57.2957795130823);
             t.angleB = R6(90 - t.angleC);
-            t.a = RD(Sqr(SquareOfText(two) + SquareOfText(one)));
+            t.a = RD(Sqr(Square(two) + Square(one)));
             break;
         case 2:
-            t.c = ValOf(one);
-            t.a = ValOf(two);
+            t.c = one;
+            t.a = two;
             t.angleC = R6(ArcSinDeg(t.c / t.a));
             t.angleB = R6(90 - t.angleC);
-            t.b = RD(Sqr(SquareOfText(two) - SquareOfText(one)));
+            t.b = RD(Sqr(Square(two) - Square(one)));
             break;
         case 3:
             t.angleB = angle;
-            t.a = ValOf(two);
+            t.a = two;
             t.angleC = R6(90 - angle);
             t.c = RD(CosDeg(angle) * t.a);
             t.b = RD(SinDeg(angle) * t.a);
             break;
         case 4:
             t.angleB = angle;
-            t.b = ValOf(two);
+            t.b = two;
             t.a = RD(t.b / SinDeg(angle));
             t.c = RD(t.b / TanDeg(angle));
             t.angleC = R6(90 - angle);
             break;
         case 5:
             t.angleB = angle;
-            t.c = ValOf(two);
+            t.c = two;
             t.a = RD(t.c / CosDeg(angle));
             t.b = RD(TanDeg(angle) * t.c);
             t.angleC = R6(90 - angle);
             break;
         case 6:
             t.angleC = angle;
-            t.a = ValOf(two);
+            t.a = two;
             t.angleB = R6(90 - angle);
             t.b = RD(CosDeg(angle) * t.a);
             t.c = RD(SinDeg(angle) * t.a);
             break;
         case 7:
             t.angleC = angle;
-            t.b = ValOf(two);
+            t.b = two;
             t.angleB = R6(90 - angle);
             t.a = RD(t.b / CosDeg(angle));
             t.c = RD(TanDeg(angle) * t.b);
@@ -110,15 +105,16 @@ void Solve(Form& f, int index, const QString& angleText, Triangle& t) {
             // The rounded Angle B, not the known C: its last digits differ,
             // and the answers have always come this way.
             t.angleC = angle;
-            t.c = ValOf(two);
+            t.c = two;
             t.angleB = R6(90 - angle);
             t.a = RD(t.c / CosDeg(t.angleB));
             t.b = RD(TanDeg(t.angleB) * t.c);
             break;
     }
+    return t;
 }
 
-QString AnswerText(const Triangle& t, int decPlace) {
+QString RightTriangleAnswer(const RightTriangle& t, int decPlace) {
     QStringList lines;
     lines << "side a= " + NumToStr(t.a);
     lines << "side b= " + NumToStr(t.b);
@@ -134,6 +130,8 @@ QString AnswerText(const Triangle& t, int decPlace) {
     lines << "Circumscribed Circle" + QString(kDiameterSign) + "= " + NumToStr(t.a);
     return lines.join("\r\n");
 }
+
+namespace {
 
 void Calculate(Form& f) {
     const QString one = f.text("txtSideOne");
@@ -161,14 +159,12 @@ void Calculate(Form& f) {
         ProgramMessage(f, "Error, Angle equal  or greater than 90 degrees");
         return;
     }
-    QString angleText;
-    if (index >= 3) {
-        angleText = f.value("chkDMS") ? DmsTextToDd(one) : one;
-    }
-    Triangle t;
-    Solve(f, index, angleText, t);
+    // Only the angle of cases 3 to 8 may be typed packed.
+    const QString first = index >= 3 && f.value("chkDMS") ? DmsTextToDd(one) : one;
+    const int decPlace = f.app().decPlace;
+    const RightTriangle t = SolveRightTriangle(index, ValOf(first), ValOf(two), decPlace);
     f.setText("field2747", "Calculating...");
-    const QString answer = AnswerText(t, f.app().decPlace);
+    const QString answer = RightTriangleAnswer(t, decPlace);
     f.setText("field2747", answer);
     ShowAnswerBox(f, kEntries, kAnswer, true);
 }
