@@ -1,5 +1,7 @@
 // DD <--> DMS: decimal degrees to degrees, minutes and seconds, and back.
 
+#include "frame/dd_to_dms.h"
+
 #include "frame/angles.h"
 #include "frame/app.h"
 #include "frame/form.h"
@@ -8,6 +10,13 @@
 #include "frame/window_kit.h"
 
 namespace tavrin {
+
+QString DdToDmsAnswer(const QString& entry, bool toDms) {
+    if (toDms) {
+        return "DMS= " + DdToDmsText(entry);
+    }
+    return "DD= " + DmsTextToDd(entry);
+}
 
 namespace {
 
@@ -38,11 +47,7 @@ void Calculate(Form& f) {
         ProgramMessage(f, "Value must be greater than zero.");
         return;
     }
-    if (f.value("optDMS")) {
-        f.setText("txtDDans", "DMS= " + DdToDmsText(f.text("txtDD1")));
-    } else {
-        f.setText("txtDDans", "DD= " + DmsTextToDd(f.text("txtDD1")));
-    }
+    f.setText("txtDDans", DdToDmsAnswer(f.text("txtDD1"), f.value("optDMS")));
 }
 
 void ClearAll(Form& f) {

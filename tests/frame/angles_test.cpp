@@ -1,101 +1,66 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <functional>
+#include <tuple>
 
 #include "frame/angles.h"
-#include "frame/numeric_text.h"
+#include "tests/frame/raises.h"
 
 namespace tavrin {
 namespace {
 
-struct DmsCase {
-    const char* entry;
-    const char* expected;
-};
-
-class DmsTextToDdTest : public ::testing::TestWithParam<DmsCase> {};
-
-TEST_P(DmsTextToDdTest, UnpacksDegreesMinutesSeconds) {
-    EXPECT_EQ(DmsTextToDd(QString::fromUtf8(GetParam().entry)),
-              QString::fromUtf8(GetParam().expected))
-        << GetParam().entry;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Packing, DmsTextToDdTest,
-    ::testing::Values(
-        DmsCase{"22.0322", " 22.056111"}, DmsCase{"22.3", " 22.5"}, DmsCase{"22.032", " 22.055556"},
-        DmsCase{"22.03", " 22.05"}, DmsCase{"22", " 22"}, DmsCase{"22.", " 22"},
-        DmsCase{"22.6000", " 23"},           // minutes above 59 stand
-        DmsCase{"22.032299", " 22.056111"},  // digits behind the seconds are ignored
-        DmsCase{"22.3 ",
-                " 22.05"},  // the tail is trimmed when measured, but the 0 goes at the very end
-        DmsCase{"-22.3", "-21.5"},  // the sign stays with the degrees
-        DmsCase{"-0.3", " .5"}, DmsCase{".3", " .5"}, DmsCase{"22.0x", " 22"},
-        DmsCase{"1e2", " 100"}, DmsCase{"0.0001", " .000278"}, DmsCase{"359.5959", " 359.999722"}));
-
-struct DdCase {
-    const char* entry;
-    const char* expected;
-};
-
-class DdToDmsTextTest : public ::testing::TestWithParam<DdCase> {};
-
-TEST_P(DdToDmsTextTest, WritesDegreesMinutesSeconds) {
-    EXPECT_EQ(DdToDmsText(QString::fromUtf8(GetParam().entry)),
-              QString::fromUtf8(GetParam().expected))
-        << GetParam().entry;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Splitting, DdToDmsTextTest,
-    ::testing::Values(DdCase{"22.056111", "22°  3'  22\""}, DdCase{"22", "22°  0'  0\""},
-                      DdCase{"22.", "22°  0'  0\""}, DdCase{".5", "0°  30'  0\""},
-                      DdCase{"-22.5", "-22°  30'  0\""},
-                      DdCase{"10.99999", "10°  59'  60\""},  // no carry of 60 seconds
-                      DdCase{"007.25", "007°  15'  0\""},    // the degrees as typed
-                      DdCase{" 5.5", "5°  30'  0\""}, DdCase{"1.35", "1°  21'  0\""},
-                      DdCase{"45.508333", "45°  30'  30\""}, DdCase{"0.0000001", "0°  0'  0\""}));
-
-TEST(DegreeHelpers, UseTheShortPiInTheirOrder) {
-    EXPECT_EQ(Pi().value(), 3.14159265358979);
-    EXPECT_NE(Pi().value(), M_PI);
-    EXPECT_EQ(Negate(2.5).value(), -2.5);
-    EXPECT_EQ(Square(1.5).value(), 2.25);
-    EXPECT_EQ(SquareOfText("3in").value(), 9);
-    EXPECT_EQ(PercentOf(250, 12).value(), 30);
-    EXPECT_EQ(SinDeg(30).value(), std::sin((3.14159265358979 * 30) / 180));
-    EXPECT_NEAR(SinDeg(90).value(), 1, 1e-15);
-    const double cos90 = CosDeg(90).value();
-    EXPECT_GT(cos90, 1e-15);  // not zero: the short pi leaves a little over
-    EXPECT_LT(cos90, 2e-15);
-    EXPECT_GT(TanDeg(90).value(), 1e14);
-    EXPECT_EQ(AtanDeg(1).value(), std::atan(1.0) * 57.2957795130823);
-    EXPECT_NEAR(ArcCosDeg(0).value(), 90, 1e-12);
-    EXPECT_NEAR(ArcSinDeg(0.5).value(), 30, 1e-12);
-    EXPECT_EQ(NumToStr(RoundTo(ArcSinDeg(0.5), 6)), " 30");
-    EXPECT_EQ(NumToStr(RoundTo(ArcCosDeg(-0.5), 6)), " 120");
-}
-
-TEST(DegreeHelpers, ArcSineAndArcCosineFailAtAndBeyondTheirPoles) {
-    const std::vector<std::pair<std::function<void()>, ErrorNumber>> cases{
-        {[] { ArcSinDeg(1); }, ErrorNumber::DivisionByZero},
-        {[] { ArcSinDeg(-1); }, ErrorNumber::DivisionByZero},
-        {[] { ArcCosDeg(1); }, ErrorNumber::DivisionByZero},
-        {[] { ArcCosDeg(-1); }, ErrorNumber::DivisionByZero},
-        {[] { ArcSinDeg(1.0000001); }, ErrorNumber::InvalidCall},
-        {[] { ArcCosDeg(-2); }, ErrorNumber::InvalidCall},
+TEST(DmsText, PacksAndUnpacksDegreesMinutesSeconds) {
+    const auto toDd = DmsTextToDd;
+    const auto toDms = DdToDmsText;
+    const std::tuple<QString (*)(const QString&), const char*, QString, const char*> rows[] = {
+        {toDd, "22.0322", " 22.056111", "minutes and seconds, rounded to six places"},
+        {toDd, "22.3", " 22.5", "one digit is tens of minutes"},
+        {toDd, "22.032", " 22.055556", "three digits end in tens of seconds"},
+        {toDd, "22.03", " 22.05", "two digits add nothing"},
+        {toDd, "22.", " 22", "a point at the end: degrees only"},
+        {toDd, "1e2", " 100", "no point: the whole text is read"},
+        {toDd, "22.6000", " 23", "minutes above 59 stand"},
+        {toDd, "22.032299", " 22.056111", "digits behind the seconds are ignored"},
+        {toDd, "22.3 ", " 22.05", "the tail is trimmed to measure, the 0 goes at the very end"},
+        {toDd, "-22.3", "-21.5", "the sign stays with the degrees"},
+        {toDd, ".3", " .5", "no degree digits"},
+        {toDms, "22.056111", "22°  3'  22\"", "seconds rounded; NumToStr's blank after each blank"},
+        {toDms, "22", "22°  0'  0\"", "no point: the text is the degrees"},
+        {toDms, "22.", "22°  0'  0\"", "a point at the end is dropped"},
+        {toDms, " .5", "0°  30'  0\"", "blank degree digits are 0"},
+        {toDms, "-22.5", "-22°  30'  0\"", "the sign as typed"},
+        {toDms, "10.99999", "10°  59'  60\"", "no carry of 60 seconds"},
+        {toDms, "007.25", "007°  15'  0\"", "the degrees as typed"},
+        {toDms, " 5.5", "5°  30'  0\"", "the degree text is trimmed"},
+        {toDms, "1.3499999999999999", "1°  21'  0\"", "minutes split by their 15-digit text"},
     };
-    for (const auto& [step, expected] : cases) {
-        try {
-            step();
-            ADD_FAILURE() << "no failure";
-        } catch (const RunTimeError& e) {
-            EXPECT_EQ(e.number(), expected);
-        }
+    for (const auto& [convert, entry, expected, guards] : rows) {
+        EXPECT_EQ(convert(entry), expected) << entry << ": " << guards;
     }
-    EXPECT_GT(ArcSinDeg(0.9999999999).value(), 89.99);
+}
+
+TEST(DegreeHelpers, UseTheShortPiInTheirOrderAndFailAtThePoles) {
+    const std::tuple<const char*, double, double> rows[] = {
+        {"Pi has fifteen digits", Pi().value(), 3.14159265358979},
+        {"Negate", Negate(2.5).value(), -2.5},
+        {"Square", Square(1.5).value(), 2.25},
+        {"SquareOfText reads by ValOf", SquareOfText("3in").value(), 9},
+        {"PercentOf", PercentOf(250, 12).value(), 30},
+        {"SinDeg(30)", SinDeg(30).value(), 0.49999999999999956},
+        {"CosDeg(90) is not 0 with the short pi", CosDeg(90).value(), 1.6155445744325867e-15},
+        {"TanDeg(90) is huge, no failure", TanDeg(90).value(), 618986325617924.2},
+        {"AtanDeg uses its own constant", AtanDeg(1).value(), 44.999999999999986},
+        {"ArcSinDeg(0.5)", ArcSinDeg(0.5).value(), 30.000000000000032},
+        {"ArcCosDeg(0)", ArcCosDeg(0).value(), 90.00000000000009},
+        {"ArcCosDeg(-0.5)", ArcCosDeg(-0.5).value(), 120.00000000000011},
+        {"ArcSinDeg(1) divides by zero", ErrorOf([] { ArcSinDeg(1); }), 11},
+        {"ArcCosDeg(-1) divides by zero", ErrorOf([] { ArcCosDeg(-1); }), 11},
+        {"ArcSinDeg beyond 1 is an invalid root", ErrorOf([] { ArcSinDeg(1.0000001); }), 5},
+        {"ArcCosDeg beyond -1 is an invalid root", ErrorOf([] { ArcCosDeg(-2); }), 5},
+        {"Negate adds before it subtracts", ErrorOf([] { Negate(1e308); }), 6},
+    };
+    for (const auto& [what, got, expected] : rows) {
+        EXPECT_EQ(got, expected) << what;
+    }
 }
 
 }  // namespace

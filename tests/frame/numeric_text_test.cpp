@@ -1,266 +1,187 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
+#include <tuple>
 
 #include "frame/numeric_text.h"
+#include "frame/real.h"
+#include "tests/frame/raises.h"
 
 namespace tavrin {
 namespace {
 
-struct ValCase {
-    const char* text;
-    double value;
-};
+// Each row: what goes in (texts split at "|"), what comes out, and the fault it
+// guards against.
 
-class ValOfTest : public ::testing::TestWithParam<ValCase> {};
-
-TEST_P(ValOfTest, ReadsTheNumberAtTheFront) {
-    const ValCase& c = GetParam();
-    EXPECT_EQ(ValOf(QString::fromUtf8(c.text)).value(), c.value) << "ValOf(\"" << c.text << "\")";
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Decimal, ValOfTest,
-    ::testing::Values(ValCase{"", 0}, ValCase{"abc", 0}, ValCase{"-", 0}, ValCase{".", 0},
-                      ValCase{"$5", 0}, ValCase{",5", 0}, ValCase{"1,5", 1}, ValCase{"1,234", 1},
-                      ValCase{"  3.5 mm", 3.5}, ValCase{"1 2", 12}, ValCase{"1 000", 1000},
-                      ValCase{"- 5", -5}, ValCase{" 12", 12}, ValCase{"\t4\n2", 42},
-                      ValCase{"\r5", 0},  // a carriage return is not skipped
-                      ValCase{"2.5in", 2.5}, ValCase{".5", 0.5}, ValCase{"-.5", -0.5},
-                      ValCase{"+7", 7}, ValCase{"--7", 0}, ValCase{"1.2.3", 1.2},
-                      ValCase{"2.5E1x", 25}, ValCase{"1E", 1}, ValCase{"1E+", 1},
-                      ValCase{"1D3", 1000}, ValCase{"1d-2", 0.01}, ValCase{"1e 2", 100},
-                      ValCase{"3.E2", 300}, ValCase{".E2", 0}, ValCase{"1E-400", 0},
-                      ValCase{"1.7976931348623157E308", 1.7976931348623157E308},
-                      ValCase{"123456789012345678901234567890", 1.2345678901234568e29},
-                      ValCase{"0.1000000000000000055511151231257827", 0.1}));
-
-INSTANTIATE_TEST_SUITE_P(HexAndOctal, ValOfTest,
-                         ::testing::Values(ValCase{"&H10", 16}, ValCase{"&h1f", 31},
-                                           ValCase{"&HFFFF", -1}, ValCase{"&H8000", -32768},
-                                           ValCase{"&H7FFF", 32767}, ValCase{"&HFFFFF", 1048575},
-                                           ValCase{"&H0000FFFF", 65535}, ValCase{"&HFFFFFFFF", -1},
-                                           ValCase{"&H7FFFFFFF", 2147483647}, ValCase{"&H1G", 1},
-                                           ValCase{"&H", 0}, ValCase{"&Hz", 0}, ValCase{"&O17", 15},
-                                           ValCase{"&o17", 15}, ValCase{"&17", 15},
-                                           ValCase{"&O177777", -1}, ValCase{"&O200000", 65536},
-                                           ValCase{"&O1777777", 524287}, ValCase{"&8", 0},
-                                           ValCase{"&", 0}, ValCase{"& H10", 16}));
-
-TEST(ValOf, LongTextOfDigitsIsCorrectlyRounded) {
-    const QString text = "0.1" + QString(2000, u'0') + "1";
-    EXPECT_EQ(ValOf(text).value(), 0.1);
-    EXPECT_EQ(ValOf(QString(400, u'9') + "E-400").value(), 1.0);
-}
-
-TEST(ValOf, TooLargeIsAnOverflow) {
+TEST(ValOf, ReadsTheNumberAtTheFront) {
+    const std::tuple<const char*, double, const char*> rows[] = {
+        {"|.E2|--7|&8", 0, "no digit at the front (8 is none after &): worth 0"},
+        {"1 000", 1000, "blanks inside are skipped"},
+        {"\t4\n2", 42, "tabs and line feeds are skipped"},
+        {"-.5", -0.5, "a minus sign, no whole digits"},
+        {"+7", 7, "a plus sign"},
+        {"1.2.3", 1.2, "a second point ends the number"},
+        {"2.5E1x", 25, "an exponent"},
+        {"1d-2", 0.01, "and d, with a negative exponent"},
+        {"&h1f", 31, "lower case h and hexadecimal letters"},
+        {"&HA", 10, "A is a hexadecimal digit"},
+        {"&H1G", 1, "G is not"},
+        {"&HFFFF", -1, "four hexadecimal digits are a 16-bit pattern"},
+        {"&H0FFFF", 65535, "five are a 32-bit pattern, whatever the value"},
+        {"&HFFFFFFFF", -1, "eight are a signed 32-bit pattern"},
+        {"&O17|&o17|&17", 15, "octal after &O, &o or a bare &"},
+        {"&O177777", -1, "six octal digits that fit 16 bits are a 16-bit pattern"},
+        {"&O0177777", 65535, "seven are a 32-bit pattern, whatever the value"},
+        {"&", 0, "& at the end"},
+    };
+    for (const auto& [texts, value, guards] : rows) {
+        for (const QString& text : QString(texts).split(u'|')) {
+            EXPECT_EQ(ValOf(text).value(), value) << '"' << text << "\": " << guards;
+        }
+    }
     for (const char* text : {"1E400", "-1E309", "1D999", "&H123456789", "&O77777777777"}) {
-        try {
-            ValOf(QString::fromLatin1(text));
-            ADD_FAILURE() << text << " read without a failure";
-        } catch (const RunTimeError& e) {
-            EXPECT_EQ(e.number(), ErrorNumber::Overflow) << text;
-        }
+        EXPECT_EQ(ErrorOf([&] { ValOf(text); }), 6) << text << " is too large";
     }
 }
 
-struct RoundCase {
-    double x;
-    int places;
-    double expected;
-};
-
-class RoundToTest : public ::testing::TestWithParam<RoundCase> {};
-
-TEST_P(RoundToTest, RoundsTheScaledValueHalfToEven) {
-    const RoundCase& c = GetParam();
-    EXPECT_EQ(RoundTo(c.x, c.places).value(), c.expected) << c.x << " to " << c.places;
+TEST(RoundTo, RoundsTheScaledValueHalfToEven) {
+    const std::tuple<double, int, double, const char*> rows[] = {
+        {2.5, 0, 2, "a tie goes down to the even neighbour"},
+        {3.5, 0, 4, "and up"},
+        {2.675, 2, 2.68, "the scaled double decides: 267.5 exactly"},
+        {1.005, 2, 1, "the scaled double falls short of 100.5"},
+        {-0.04, 1, 0, "a negative value rounding to zero gives +0"},
+    };
+    for (const auto& [x, places, expected, guards] : rows) {
+        const double got = RoundTo(x, places).value();
+        EXPECT_EQ(got, expected) << x << " to " << places << ": " << guards;
+        EXPECT_EQ(std::signbit(got), std::signbit(expected)) << x << ": " << guards;
+    }
+    EXPECT_EQ(ErrorOf([] { RoundTo(1.5, -1); }), 5);
+    EXPECT_EQ(ErrorOf([] { RoundTo(1e305, 4); }), 6);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Table, RoundToTest,
-    ::testing::Values(RoundCase{2.5, 0, 2}, RoundCase{3.5, 0, 4}, RoundCase{-2.5, 0, -2},
-                      RoundCase{0.5, 0, 0}, RoundCase{1.5, 0, 2}, RoundCase{-3.5, 0, -4},
-                      RoundCase{0.125, 2, 0.12}, RoundCase{0.375, 2, 0.38},
-                      RoundCase{2.675, 2, 2.68},  // 2.675 * 100 is exactly 267.5
-                      RoundCase{1.005, 2, 1},     // 1.005 * 100 falls short of 100.5
-                      RoundCase{1.2345, 3, 1.234}, RoundCase{0.00015, 4, 0.0001},
-                      RoundCase{2291.825821237586, 1, 2291.8}, RoundCase{261.8, 1, 261.8},
-                      RoundCase{-2291.825821237586, 1, -2291.8},
-                      RoundCase{123.456789, 6, 123.456789}, RoundCase{1e300, 4, 1e300}));
+TEST(NumToStr, WritesFifteenDigitsWithAndWithoutTheSignColumn) {
+    const std::tuple<double, QString, QString, const char*> rows[] = {
+        {-0.0, " 0", "0", "zero, and a negative zero is no negative"},
+        {0.5, " .5", "0.5", "no zero before the point, unless NumToText"},
+        {-0.1, "-.1", "-0.1", "the sign of a fraction"},
+        {1.5, " 1.5", "1.5", "exponent 0 is fixed"},
+        {1.0 / 30, " 3.33333333333333E-02", "3.33333333333333E-02", "16 places: E notation"},
+        {1e-15, " .000000000000001", "0.000000000000001", "15 places stay fixed"},
+        {1.5e-15, " 1.5E-15", "1.5E-15", "16 places do not"},
+        {1e-16, " 1E-16", "1E-16", "one digit has no point"},
+        {1e14, " 100000000000000", "100000000000000", "exponent 14 is fixed"},
+        {1e15, " 1E+15", "1E+15", "exponent 15 is not, and has two digits"},
+        {1234567890123445, " 1.23456789012344E+15", "1.23456789012344E+15", "ties to even"},
+    };
+    for (const auto& [x, str, text, guards] : rows) {
+        EXPECT_EQ(NumToStr(x), str) << guards;
+        EXPECT_EQ(NumToText(x), text) << guards;
+    }
+    EXPECT_EQ(NumToStr(0) + NumToStr(-32768) + NumToText(-7), " 0-32768-7");  // integers
+    EXPECT_EQ(NumToStr(QString(" 3 ")), " 3");  // a text is converted strictly
+}
 
-TEST(RoundTo, NeverGivesANegativeZero) {
-    for (double x : {-0.04, -0.0, -0.4, -1e-300}) {
-        const double r = RoundTo(x, x == -0.4 ? 0 : 1).value();
-        EXPECT_EQ(r, 0.0);
-        EXPECT_FALSE(std::signbit(r)) << x;
+TEST(FormatNum, WritesByThePattern) {
+    const std::tuple<double, const char*, QString, const char*> rows[] = {
+        {3.14159265, "####0.0######", "3.1415927", "as many places as the pattern has"},
+        {2, "####0.0#####", "2.0", "\"#\" places drop trailing zeros, \"0\" places not"},
+        {1.10, "####0.0###", "1.1", "up to the last significant digit"},
+        {0.1, "####0.0###", "0.1", "a \"0\" before the point forces one digit"},
+        {0, "########.00", ".00", "only \"#\" before the point: no whole digit"},
+        {0.5, ".00", ".50", "nothing before the point: no whole digit either"},
+        {1e20, "####0.0#####", "100000000000000000000.0", "beyond the fifteen digits"},
+        {12345678901234.5, "####0.0", "12345678901234.5", "the fifteenth digit behind the point"},
+        {1.005, "########.00", "1.01", "rounds the 15-digit text, not the double"},
+        {2.5, "#", "3", "halves away from zero; no point"},
+        {-2.5, "0", "-3", "away from zero below it too"},
+        {12.345675, "####0.0####", "12.34568", "a five rounds up inside the digits"},
+        {9.9999999, "####0.0#####", "10.0", "the carry makes a new whole digit"},
+        {0.0000005, "####0.0#####", "0.000001", "rounds up into the last place"},
+        {-0.0000001, "##0.000000", "-0.000000", "the sign stays on a rounded zero"},
+        {-0.0, "##0.000000", "0.000000", "but a negative zero has none"},
+        {2.5, "#.##", "2.5", "\"#\" places alone show their digits"},
+        {2, "#.##", "2", "and no point without them"},
+    };
+    for (const auto& [x, pattern, expected, guards] : rows) {
+        EXPECT_EQ(FormatNum(x, pattern), expected) << x << " by " << pattern << ": " << guards;
     }
 }
 
-TEST(RoundTo, NegativePlacesAndHugeScalesFail) {
-    try {
-        RoundTo(1.5, -1);
-        ADD_FAILURE();
-    } catch (const RunTimeError& e) {
-        EXPECT_EQ(e.number(), ErrorNumber::InvalidCall);
+TEST(TextTests, IsNumberTextAndIsDigitText) {
+    for (const char* yes : {"-12.5", "", "-", ".", "-."}) {
+        EXPECT_EQ(IsNumberText(yes), 1) << '"' << yes << '"';
     }
-    try {
-        RoundTo(1e305, 4);
-        ADD_FAILURE();
-    } catch (const RunTimeError& e) {
-        EXPECT_EQ(e.number(), ErrorNumber::Overflow);
+    for (const char* no : {"1.2.3", "--1", "1-", "1 ", "+1", "1E5", "1,5"}) {
+        EXPECT_EQ(IsNumberText(no), 0) << no;
+    }
+    // The argument is shortened to its first character; only 0 to 9 count.
+    for (const auto& [text, expected] :
+         {std::pair{"5abc", 1}, {"0", 1}, {"9", 1}, {":", 0}, {"\u0663", 0}}) {
+        QString shortened = QString::fromUtf8(text);
+        EXPECT_EQ(IsDigitText(shortened), expected) << text;
+        EXPECT_EQ(shortened, QString::fromUtf8(text).left(1));
+    }
+    QString empty;
+    EXPECT_EQ(ErrorOf([&] { IsDigitText(empty); }), 5);
+}
+
+TEST(StrictInt16, RefusesWhatIsNoNumber) {
+    const std::tuple<const char*, int, int, const char*> rows[] = {
+        {" 42 ", 42, 0, "surrounding blanks are allowed"},
+        {"&H10", 16, 0, "hexadecimal is a number"},
+        {"1E2", 100, 0, "an exponent is part of the number"},
+        {"", 0, 13, "an empty text is no number"},
+        {"4x", 0, 13, "the whole text must be read"},
+        {"&H", 0, 13, "no hexadecimal digit"},
+        {"1E", 0, 13, "an exponent letter without digits is left over"},
+        {"32768", 0, 6, "beyond 16 bits"},
+    };
+    for (const auto& [text, value, error, guards] : rows) {
+        int got = 0;
+        EXPECT_EQ(ErrorOf([&] { got = StrictInt16(text); }), error) << text << ": " << guards;
+        EXPECT_EQ(got, value) << text << ": " << guards;
     }
 }
 
-struct TextCase {
-    double x;
-    const char* str;
-    const char* text;
-};
-
-class NumberTextTest : public ::testing::TestWithParam<TextCase> {};
-
-TEST_P(NumberTextTest, WritesFifteenDigitsWithAndWithoutTheSignColumn) {
-    const TextCase& c = GetParam();
-    EXPECT_EQ(NumToStr(c.x), QString::fromLatin1(c.str)) << c.x;
-    EXPECT_EQ(NumToText(c.x), QString::fromLatin1(c.text)) << c.x;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, NumberTextTest,
-    ::testing::Values(
-        TextCase{0, " 0", "0"}, TextCase{-0.0, " 0", "0"}, TextCase{0.5, " .5", "0.5"},
-        TextCase{-0.5, "-.5", "-0.5"}, TextCase{12, " 12", "12"}, TextCase{1.5, " 1.5", "1.5"},
-        TextCase{1.0 / 3, " .333333333333333", "0.333333333333333"},
-        TextCase{2.0 / 3, " .666666666666667", "0.666666666666667"},
-        TextCase{1.0 / 30, " 3.33333333333333E-02", "3.33333333333333E-02"},
-        TextCase{0.00001, " .00001", "0.00001"}, TextCase{1e-16, " 1E-16", "1E-16"},
-        TextCase{1e-15, " .000000000000001", "0.000000000000001"},
-        TextCase{1.5e-15, " 1.5E-15", "1.5E-15"}, TextCase{1.23e-5, " .0000123", "0.0000123"},
-        TextCase{100000000000000, " 100000000000000", "100000000000000"},
-        TextCase{1e15, " 1E+15", "1E+15"}, TextCase{1e100, " 1E+100", "1E+100"},
-        TextCase{-2.5e-200, "-2.5E-200", "-2.5E-200"},
-        TextCase{1234567890123456, " 1.23456789012346E+15", "1.23456789012346E+15"},
-        TextCase{123456789012345.6, " 123456789012346", "123456789012346"},
-        TextCase{999999999999999.5, " 1E+15", "1E+15"}, TextCase{0.1 + 0.2, " .3", "0.3"},
-        TextCase{2291.8, " 2291.8", "2291.8"}, TextCase{-2291.8, "-2291.8", "-2291.8"},
-        TextCase{-0.04999, "-.04999", "-0.04999"},
-        // An exact half at the sixteenth digit goes to the even fifteenth.
-        TextCase{1234567890123445, " 1.23456789012344E+15", "1.23456789012344E+15"},
-        TextCase{1234567890123455, " 1.23456789012346E+15", "1.23456789012346E+15"}));
-
-TEST(NumToStr, IntegersArePlainDigits) {
-    EXPECT_EQ(NumToStr(5), " 5");
-    EXPECT_EQ(NumToStr(-32768), "-32768");
-    EXPECT_EQ(NumToText(0), "0");
-    EXPECT_EQ(NumToStr(RoundTo(0.04999, 1)), " 0");
-    EXPECT_EQ(NumToStr(RoundTo(-0.04, 1)), " 0");
-}
-
-TEST(NumToStr, OfATextConvertsStrictly) {
-    EXPECT_EQ(NumToStr(QString("2")), " 2");
-    EXPECT_EQ(NumToStr(QString(" 3 ")), " 3");
-    try {
-        NumToStr(QString("two"));
-        ADD_FAILURE();
-    } catch (const RunTimeError& e) {
-        EXPECT_EQ(e.number(), ErrorNumber::TypeMismatch);
+TEST(CheckedArithmetic, RaisesTheNumberedFailureAtTheFailingStepOrRoundsHalfToEven) {
+    const Real zero = 0;
+    std::int16_t counter = 32767;
+    const std::tuple<const char*, int, int> rows[] = {
+        {"1 / 0", ErrorOf([&] { Real(1) / zero; }), 11},
+        {"0 / 0 is an invalid operation", ErrorOf([&] { zero / zero; }), 6},
+        {"1e308 * 10", ErrorOf([] { Real(1e308) * 10; }), 6},
+        {"Sqr(-1)", ErrorOf([] { Sqr(-1); }), 5},
+        {"Log(0)", ErrorOf([] { Log(0); }), 5},
+        {"Exp(1000)", ErrorOf([] { Exp(1000); }), 6},
+        {"(-8) ^ 0.5", ErrorOf([] { Power(-8, 0.5); }), 5},
+        {"0 ^ -1", ErrorOf([] { Power(0, -1); }), 11},
+        {"ToInt16(32767.5) rounds to 32768", ErrorOf([] { ToInt16(32767.5); }), 6},
+        {"ToInt32(2147483648)", ErrorOf([] { ToInt32(2147483648.0); }), 6},
+        {"Step16 past 32767", ErrorOf([&] { Step16(counter); }), 6},
+        {"the failed step leaves the counter as it was", counter, 32767},
+        {"ToInt16(2.5) ties to even", ToInt16(2.5), 2},
+        {"ToInt16(-32768.5) ties to the even edge", ToInt16(-32768.5), -32768},
+    };
+    for (const auto& [what, got, expected] : rows) {
+        EXPECT_EQ(got, expected) << what;
     }
 }
 
-struct FormatCase {
-    double x;
-    const char* pattern;
-    const char* expected;
-};
-
-class FormatNumTest : public ::testing::TestWithParam<FormatCase> {};
-
-TEST_P(FormatNumTest, WritesByThePattern) {
-    const FormatCase& c = GetParam();
-    EXPECT_EQ(FormatNum(c.x, QString::fromLatin1(c.pattern)), QString::fromLatin1(c.expected))
-        << c.x << " by " << c.pattern;
+TEST(CheckedArithmetic, KeepsTheOrderOfOperationsAsWritten) {
+    const Real a = 0.1;
+    EXPECT_EQ(((a + 0.2) + 0.3).value(), 0.6000000000000001);  // not regrouped
+    EXPECT_EQ((a + (Real(0.2) + 0.3)).value(), 0.6);
+    const Real x = 1.0 + 1e-8;
+    const Real p = x * x;
+    EXPECT_EQ((x * x - p).value(), 0.0);  // no fused multiply-add
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    PatternsInUse, FormatNumTest,
-    ::testing::Values(
-        FormatCase{3.14159265, "####0.0#####", "3.141593"}, FormatCase{2, "####0.0#####", "2.0"},
-        FormatCase{3.14159265, "####0.0######", "3.1415927"}, FormatCase{2, "####0.0######", "2.0"},
-        FormatCase{3.14159265, "##0.000000", "3.141593"}, FormatCase{2, "##0.000000", "2.000000"},
-        FormatCase{3.14159265, "####0.000000", "3.141593"},
-        FormatCase{2, "####0.000000", "2.000000"}, FormatCase{3.14159265, "########.00", "3.14"},
-        FormatCase{2, "########.00", "2.00"}, FormatCase{3.14159265, "#########0.0000", "3.1416"},
-        FormatCase{2, "#########0.0000", "2.0000"},
-        FormatCase{3.14159265, "####0.0####", "3.14159"}, FormatCase{2, "####0.0####", "2.0"},
-        FormatCase{3.14159265, "####0.0###", "3.1416"}, FormatCase{2, "####0.0###", "2.0"}));
-
-INSTANTIATE_TEST_SUITE_P(
-    EdgeCases, FormatNumTest,
-    ::testing::Values(
-        FormatCase{0, "########.00", ".00"}, FormatCase{0.5, "########.00", ".50"},
-        FormatCase{1234567.891, "########.00", "1234567.89"},
-        FormatCase{123456789, "####0.0#####", "123456789.0"},
-        FormatCase{1.005, "########.00", "1.01"},  // rounds the 15-digit text, not the double
-        FormatCase{2.5, "#", "3"}, FormatCase{-2.5, "0", "-3"},
-        FormatCase{12.345675, "####0.0####", "12.34568"},
-        FormatCase{-0.0000001, "##0.000000", "-0.000000"},
-        FormatCase{-0.0, "##0.000000", "0.000000"}, FormatCase{0, "####0.0#####", "0.0"},
-        FormatCase{0.99999999, "####0.0#####", "1.0"},
-        FormatCase{9.9999999, "####0.0#####", "10.0"},
-        FormatCase{0.0000005, "####0.0#####", "0.000001"},
-        FormatCase{0.0000004, "####0.0#####", "0.0"}, FormatCase{-1.5, "####0.0###", "-1.5"},
-        FormatCase{1.10, "####0.0###", "1.1"}, FormatCase{0.25, "####0.0###", "0.25"},
-        FormatCase{1e20, "####0.0#####", "100000000000000000000.0"},
-        FormatCase{-12.5, "#########0.0000", "-12.5000"}));
-
-TEST(IsNumberText, AcceptsOnlyPlainNumberCharacters) {
-    for (const char* yes : {"-12.5", "", "-", ".", "-.", "12", "0.5", "-0"}) {
-        EXPECT_EQ(IsNumberText(QString::fromLatin1(yes)), 1) << yes;
-    }
-    for (const char* no : {"1.2.3", "--1", "1-", "1 ", " 1", "+1", "1E5", "1,5", "..", "a"}) {
-        EXPECT_EQ(IsNumberText(QString::fromLatin1(no)), 0) << no;
-    }
-}
-
-TEST(IsDigitText, ShortensItsArgumentToTheFirstCharacter) {
-    QString text = "5abc";
-    EXPECT_EQ(IsDigitText(text), 1);
-    EXPECT_EQ(text, "5");
-    text = "x9";
-    EXPECT_EQ(IsDigitText(text), 0);
-    EXPECT_EQ(text, "x");
-    text = QString::fromUtf8("\u0663");  // an Arabic-Indic three is no digit here
-    EXPECT_EQ(IsDigitText(text), 0);
-    text.clear();
-    try {
-        IsDigitText(text);
-        ADD_FAILURE();
-    } catch (const RunTimeError& e) {
-        EXPECT_EQ(e.number(), ErrorNumber::InvalidCall);
-    }
-}
-
-TEST(StrictNumber, RefusesWhatIsNoNumber) {
-    EXPECT_EQ(StrictInt16(" 42 "), 42);
-    EXPECT_EQ(StrictInt16("&H10"), 16);
-    EXPECT_EQ(StrictInt16("2.5"), 2);
-    EXPECT_EQ(StrictInt16("3.5"), 4);
-    for (const char* text : {"", "abc", "4x", "1 2", "-"}) {
-        try {
-            StrictInt16(QString::fromLatin1(text));
-            ADD_FAILURE() << text;
-        } catch (const RunTimeError& e) {
-            EXPECT_EQ(e.number(), ErrorNumber::TypeMismatch) << text;
-        }
-    }
-    try {
-        StrictInt16("32768");
-        ADD_FAILURE();
-    } catch (const RunTimeError& e) {
-        EXPECT_EQ(e.number(), ErrorNumber::Overflow);
-    }
+TEST(CheckedArithmetic, FatalTextNamesNumberAndText) {
+    EXPECT_EQ(RunTimeError(ErrorNumber::SubscriptOutOfRange).fatalText() + '|' +
+                  RunTimeError(ErrorNumber::DivisionByZero).text(),
+              "Run-time error '9':\r\n\r\nSubscript out of range|Division by zero");
 }
 
 }  // namespace
