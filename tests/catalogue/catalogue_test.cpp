@@ -11,7 +11,7 @@
 #include "frame/form_registry.h"
 #include "frame/launch_tables.h"
 #include "frame/window_kit.h"
-#include "tests/support/fake_ui.h"
+#include "tests/support/harness.h"
 
 namespace tavrin {
 namespace {

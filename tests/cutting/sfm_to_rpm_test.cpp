@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "cutting/sfm_to_rpm.h"
-#include "tests/support/fake_ui.h"
+#include "tests/support/harness.h"
 
 namespace tavrin {
 namespace {

@@ -8,7 +8,7 @@
 #include <tuple>
 
 #include "frame/dd_to_dms.h"
-#include "tests/support/fake_ui.h"
+#include "tests/support/harness.h"
 
 namespace tavrin {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "frame/numeric_text.h"
 #include "geometry/right_triangle.h"
-#include "tests/support/fake_ui.h"
+#include "tests/support/harness.h"
 
 namespace tavrin {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "inspection/ball_drop.h"
-#include "tests/support/fake_ui.h"
+#include "tests/support/harness.h"
 
 // Expected figures are worked in doubles, step by step, apart from the code. A
 // 45 degree countersink and a ball of .5 throughout, unless a row says otherwise.

@@ -2,7 +2,7 @@
 
 #include "frame/window_kit.h"
 #include "quickcode/bolt_circle.h"
-#include "tests/support/fake_ui.h"
+#include "tests/support/harness.h"
 
 namespace tavrin {
 namespace {
@@ -78,7 +78,7 @@ TEST(BoltCircle, HandlerRows) {
 }
 
 // A display whose one event pass records what the answer box shows then.
-struct WatchingUi : testing::FakeUi {
+struct WatchingUi : RecordingUi {
     QStringList seen;
     const Form* form = nullptr;
     void processEvents() override { seen << form->text("Text7"); }

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "quickcode/thread_milling.h"
-#include "tests/support/fake_ui.h"
+#include "tests/support/harness.h"
 
 namespace tavrin {
 namespace {

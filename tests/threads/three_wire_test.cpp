@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "tests/support/fake_ui.h"
+#include "tests/support/harness.h"
 #include "threads/three_wire.h"
 
 // Expected figures are worked in doubles, step by step, apart from the code.

@@ -1,17 +1,8 @@
-#include "tests/support/fake_ui.h"
+#include "tests/support/harness.h"
 
 #include "frame/form.h"
 
 namespace tavrin::testing {
-
-FakeUi::FakeUi() {
-    onShown = [this](const Shown& box) {
-        auto& list = box.kind == Kind::Message    ? messages
-                     : box.kind == Kind::Question ? questions
-                                                  : fatals;
-        list.push_back({box.title, box.text});
-    };
-}
 
 Harness::Harness() {
     app.splashEnabled = false;

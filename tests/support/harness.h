@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QString>
-#include <vector>
+#include <QStringList>
 
 #include "frame/app.h"
 #include "frame/recording_ui.h"
@@ -9,24 +9,10 @@
 
 namespace tavrin::testing {
 
-// The recording display, with each kind of box also kept in a list of its own.
-class FakeUi : public RecordingUi {
-  public:
-    struct Box {
-        QString title;
-        QString text;
-    };
-    std::vector<Box> messages;
-    std::vector<Box> questions;
-    std::vector<Box> fatals;
-
-    FakeUi();
-};
-
-// An App with a fake display and a store in memory, started without the
+// An App on the recording display with a store in memory, started without the
 // splash, as most tests want it.
 struct Harness {
-    FakeUi ui;
+    RecordingUi ui;
     MemorySettings settings;
     App app{ui, settings};
 
