@@ -125,7 +125,6 @@ Form& Mill(testing::Harness& h, const QString& steps) {
     return h.run("frmThdMill", all);
 }
 
-// The eight fields as they stand, joined as Mill takes them.
 QString Fields(const Form& f) {
     QStringList texts;
     for (const char* name : kFields) {
@@ -184,7 +183,8 @@ TEST(ThreadMilling, MoreThan300LabelsIsFatal) {
 TEST(ThreadMilling, LoadsWithTheFirstItemsAndClearAllLeavesTheChoices) {
     testing::Harness h;
     Form& f = h.open("frmThdMill");
-    EXPECT_EQ(f.text("popTM_Tool") + f.text("popTM_Thread"), "Hob-MillExt.");
+    EXPECT_EQ(f.title() + f.text("popTM_Tool") + f.text("popTM_Thread"),
+              "Thread MillingHob-MillExt.");
     Mill(h, "0|0|.1|.5|1|.5|.125|5|popTM_Tool#1|popTM_Thread#1|Checkbox1208|Command1|Command2");
     EXPECT_EQ(Fields(f) + f.text("fld_TM_Answer"), "|||||||");
     EXPECT_EQ(f.text("popTM_Tool") + f.text("popTM_Thread"), "Single Pt.Int.");
