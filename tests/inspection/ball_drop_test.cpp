@@ -3,8 +3,8 @@
 #include "inspection/ball_drop.h"
 #include "tests/support/harness.h"
 
-// Expected figures are worked in doubles, step by step, apart from the code. A
-// 45 degree countersink and a ball of .5 throughout, unless a row says otherwise.
+// Expected figures are worked in doubles, step by step, apart from the code. An
+// angle of 45 per side and a ball of .5, unless a row says otherwise.
 namespace tavrin {
 namespace {
 

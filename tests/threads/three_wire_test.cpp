@@ -38,10 +38,8 @@ TEST(ThreeWireSolver, EachFormAndSoughtSizeHasItsFormula) {
         {IsoMetric, .036, .4375, 16, {0.49137312499999997, 0.38362687500000003, 0.450778125}},
     };
     for (const auto& r : rows) {
-        for (int find = 0; find < 3; ++find) {
-            EXPECT_EQ(ThreeWireFigure(r.form, find, r.w, r.s, r.t).value(), r.figures[find])
-                << find;
-        }
+        auto figure = [&r](int find) { return ThreeWireFigure(r.form, find, r.w, r.s, r.t); };
+        EXPECT_EQ(Values(figure(0), figure(1), figure(2)), r.figures) << r.form;
     }
 }
 
@@ -74,12 +72,11 @@ TEST(ThreeWireSolver, WireLimits) {
     }
 }
 
-// The depth, and the best, smallest and largest wire, in inches.
 TEST(ThreeWireSolver, BestWiresAndDepth) {
     const struct {
         int form;
         double tpi, depth;
-        Three wires;
+        Three wires;  // best, smallest and largest, in inches
     } rows[] = {
         {Ansu, 20, 0.0306715, {0.0288675, 0.028000000000000004, 0.045}},
         {Whitworth, 16, 0.040020625, {0.035230625, 0.03375, 0.0475}},
@@ -96,12 +93,12 @@ TEST(ThreeWireSolver, BestWiresAndDepth) {
 }
 
 struct Row {
-    const char* choices;  // selections and check boxes, before the fields are typed
-    const char *tpi, *wire, *known;
-    char yes;                  // 'y' or 'n' to the wire question, if it comes
+    const char *choices, *tpi, *wire, *known;  // choices: selections and check boxes, first
+    char yes;                                  // 'y' or 'n' to the wire question, if it comes
     const char *box, *answer;  // the last box shown; "earlier" where the answer box keeps its text
 };
 
+const char* const kZero = "Error, Please fill all three data fields with values greater than zero.";
 const char* const kAsk = "You have entered an invalid wire size for the data entered, continue?";
 
 TEST(ThreeWire, HandlerRows) {
@@ -115,8 +112,9 @@ TEST(ThreeWire, HandlerRows) {
          "Pitch Dia.=  .1936\r\n [ 4.9182 mm]"},
         // only zero is refused, and text counts as zero
         {"", "20", ".032", "-.2702", 0, "", "Pitch Dia.= -.3229\r\n [-8.2017 mm]"},
-        {"", "20", "abc", ".2175", 0,
-         "Error, Please fill all three data fields with values greater than zero.", "earlier"},
+        {"", "abc", ".032", ".2175", 0, kZero, "earlier"},
+        {"", "20", "0", ".2175", 0, kZero, "earlier"},
+        {"", "20", ".032", "-0", 0, kZero, "earlier"},
         {"popFindThd#0", "20", ".028", ".2175", 'n', kAsk, ""},
         {"popFindThd#0", "20", ".028", ".2175", 'y', kAsk, "Over Wire=  .2582\r\n [ 6.5583 mm]"},
         {"popTypThd#4", "20", "1E308", ".2", 0, "Run-time error '6':\r\n\r\nOverflow",
@@ -151,15 +149,17 @@ TEST(ThreeWire, BestWireAndDepthMessages) {
     for (const auto& [steps, box] : rows) {
         testing::Harness h;
         h.run("frmThreeWire", steps);
-        EXPECT_EQ(h.ui.messageTexts(), QStringList{box}) << steps.join(' ');
+        EXPECT_EQ(h.lastBox(), box) << steps.join(' ');
     }
 }
 
 TEST(ThreeWire, CaptionsFollowTheChoicesAndClearAllKeepsThem) {
     testing::Harness h;
     Form& f = h.run("frmThreeWire", {"popFindThd#0"});
-    EXPECT_EQ(f.control("popTypThd").items.value(4) + "|" + f.caption("txtMultiThd"),
-              QStringLiteral("Löwenherz (53° 8')|Pitch Dia."));
+    const QStringList forms = f.control("popTypThd").items;  // the first is chosen on load
+    EXPECT_EQ(forms.value(4) + "|" + forms.value(f.listIndex("popTypThd")) + "|" +
+                  f.caption("txtMultiThd"),
+              QStringLiteral("Löwenherz (53° 8')|ANSU (60°)|Pitch Dia."));
     h.run("frmThreeWire", {"popFindThd#2", "chkPitch"});
     EXPECT_EQ(f.caption("txtMultiThd") + "|" + f.caption("Label1571"), "Major Dia.|Pitch");
     h.run("frmThreeWire", {"popFindThd#1", "chkPitch", "popTypThd#3", "chkTWMet"});
