@@ -30,7 +30,7 @@ TEST(DmsText, PacksAndUnpacksDegreesMinutesSeconds) {
         {toDms, "-22.5", "-22°  30'  0\"", "the sign as typed"},
         {toDms, "10.99999", "10°  59'  60\"", "no carry of 60 seconds"},
         {toDms, "007.25", "007°  15'  0\"", "the degrees as typed"},
-        {toDms, " 5.5", "5°  30'  0\"", "the degree text is trimmed"},
+        {toDms, " 5 .5", "5°  30'  0\"", "blanks around the degrees are trimmed"},
         {toDms, "1.3499999999999999", "1°  21'  0\"", "minutes split by their 15-digit text"},
     };
     for (const auto& [convert, entry, expected, guards] : rows) {

@@ -91,7 +91,7 @@ TEST(FormatNum, WritesByThePattern) {
         {0.1, "####0.0###", "0.1", "a \"0\" before the point forces one digit"},
         {0, "########.00", ".00", "only \"#\" before the point: no whole digit"},
         {0.5, ".00", ".50", "nothing before the point: no whole digit either"},
-        {1e20, "####0.0#####", "100000000000000000000.0", "beyond the fifteen digits"},
+        {1e15, "####0.0", "1000000000000000.0", "whole digits beyond the fifteen"},
         {12345678901234.5, "####0.0", "12345678901234.5", "the fifteenth digit behind the point"},
         {1.005, "########.00", "1.01", "rounds the 15-digit text, not the double"},
         {2.5, "#", "3", "halves away from zero; no point"},
