@@ -12,6 +12,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -49,7 +50,7 @@ struct Sample {
         f.addTextBox("txtNotes").multiLine = true;
         f.addTextBox("txtN");
         Control& spin = f.add(ControlKind::Spin, "UpDown");
-        spin.buddy = "txtN", spin.minimum = 1, spin.maximum = 3;
+        spin.buddy = "txtN", spin.minimum = 1, spin.maximum = 9;
         f.addLabel("lblLonger", "A much longer caption");
         f.addTextBox("txtB");
         f.addLabel("lblA", "A");
@@ -148,10 +149,10 @@ TEST(QtView, TheUsersEditsAndClicksReachTheLogic) {
         QTest::mouseClick(s.button(name), Qt::LeftButton);
     }
     EXPECT_TRUE(!s.button("optOne")->isChecked() && s.button("optTwo")->isChecked());
-    for (const char* arrow : {"UpDownUp", "UpDownUp", "UpDownUp", "UpDownDown"}) {
+    for (const char* arrow : {"UpDownUp", "UpDownUp", "UpDownDown"}) {
         QTest::mouseClick(v->findChild<QToolButton*>(arrow), Qt::LeftButton);
     }
-    EXPECT_EQ(Find<QLineEdit>(v, "txtN")->text(), "2") << "from 1 up to 3, then one down";
+    EXPECT_EQ(Find<QLineEdit>(v, "txtN")->text(), "2") << "from 1 two up, one down";
     v->action("mnuGo")->trigger();
     EXPECT_EQ(s.log, QStringList({"cboEdit#x", "optTwo#", "chkThree#", "chkThree#", "Command1#",
                                   "mnuGo#"}));
@@ -208,6 +209,10 @@ TEST(QtWindows, HomeStandsAtItsStoredPlaceAndTheOthersBesideIt) {
     EXPECT_EQ(sfm->parentWidget(), home) << "not a window of its own in the task bar";
     const QRect area = sfm->screen()->availableGeometry();
     EXPECT_LE((sfm->frameGeometry().center() - area.center()).manhattanLength(), 10) << "centred";
+    const QPointer<FormView> closed = sfm;
+    sfm->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(closed.isNull()) << "an unloaded window's view goes with it";
     home->move(home->logicalDpiX() * 23, 0);  // 23 inches are 33120 twips
     EXPECT_EQ(form.left(), 33120);
     home->close();
