@@ -1,6 +1,6 @@
 // The view alone: on a window declared here with a control of each kind, the
 // widgets follow the logic, the user's actions reach it, rows, tab order and
-// keys; on the real windows, where they stand, the answer box swap, the boxes.
+// keys; on the real windows, where they stand, and the boxes.
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,6 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QTest>
@@ -218,19 +217,6 @@ TEST(QtWindows, HomeStandsAtItsStoredPlaceAndTheOthersBesideIt) {
     home->close();
     EXPECT_EQ(h.ui.boxes, QStringList("fatal: Run-time error '6':\r\n\r\nOverflow"))
         << "a place beyond 16 bits is not stored";
-}
-
-TEST(QtWindows, TheRightTriangleAnswerTakesThePlaceOfItsEntries) {
-    QtHarness h;
-    FormView* trig = h.open("frmTrig");
-    QTest::keyClicks(Find<QLineEdit>(trig, "txtSideOne"), "5");
-    QTest::keyClicks(Find<QLineEdit>(trig, "txtSideTwo"), "3");
-    QTest::mouseClick(Find<QPushButton>(trig, "Command1"), Qt::LeftButton);
-    EXPECT_FALSE(trig->widget("txtSideOne")->isVisible());
-    EXPECT_TRUE(trig->widget("field2747")->isVisible());
-    QTest::mouseClick(Find<QPushButton>(trig, "Command3"), Qt::LeftButton);
-    EXPECT_TRUE(trig->widget("txtSideOne")->isVisible());
-    EXPECT_FALSE(trig->widget("field2747")->isVisible());
 }
 
 // Presses a button of the next box when it comes, and keeps its title and text.
