@@ -8,7 +8,7 @@ namespace {
 
 TEST(SfmToRpmSolver, ShortPiAndOnePlace) {
     EXPECT_EQ(SpindleRpm(300, 0.5).value(), 2291.8);
-    EXPECT_EQ(SpindleRpm(100, 1).value(), 382.0);  // 381.97 with the short constant
+    EXPECT_EQ(SpindleRpm(100, 1).value(), 382.0);      // 381.97 with the short constant
     EXPECT_EQ(SpindleRpm(1E6, 1).value(), 3819709.7);  // the fourth place of the constant
     EXPECT_EQ(SurfaceFeet(2000, 0.5).value(), 261.8);
     EXPECT_EQ(SurfaceFeet(1, 1).value(), 0.3);  // .2618 to one place
