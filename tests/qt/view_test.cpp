@@ -52,7 +52,7 @@ struct Sample {
         f.addTextBox("txtN");
         Control& spin = f.add(ControlKind::Spin, "UpDown");
         spin.buddy = "txtN", spin.minimum = 1, spin.maximum = 9;
-        f.addLabel("lblLonger", "A much longer caption");
+        f.addLabel("lblLonger", "A much longer caption").centred = true;
         f.addTextBox("txtB");
         f.addLabel("lblA", "A");
         f.addTextBox("txtA");
@@ -89,6 +89,7 @@ TEST(QtView, WidgetsFollowEveryChangeOfTheLogic) {
     EXPECT_TRUE(v->widget("lblOff") == nullptr && s.button("optOne")->isChecked());
     EXPECT_TRUE(s.button("Command1")->text() == "Go" && !s.button("Command1")->icon().isNull());
     EXPECT_EQ(s.button("optOne")->parentWidget(), v->widget("Frame1"));
+    EXPECT_EQ(Find<QLabel>(v, "lblLonger")->alignment(), Qt::AlignCenter);
     auto* line = Find<QLineEdit>(v, "lblAns");
     EXPECT_TRUE(line->isReadOnly() && line->alignment() == Qt::AlignCenter &&
                 line->focusPolicy() == Qt::ClickFocus);
