@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
@@ -37,8 +38,8 @@ struct Sample {
     int ticks = 0;
     std::unique_ptr<FormView> view;
     Sample() {
-        f.addButton("Command1", "Go").picture = "home";
         f.addAnswerBox("txtAns", 2, ScrollBars::Both);
+        f.addButton("Command1", "Go").picture = "home";
         f.addAnswerLine("lblAns").tabStop = false;
         f.add(ControlKind::ListBox, "lstPick").items = QStringList{"p", "q", "r"};
         f.add(ControlKind::Combo, "cboEdit").items = QStringList{"x", "y"};
@@ -50,7 +51,7 @@ struct Sample {
         f.addTextBox("txtN");
         Control& spin = f.add(ControlKind::Spin, "UpDown");
         spin.buddy = "txtN", spin.minimum = 1, spin.maximum = 9;
-        f.addLabel("lblLonger", "A much longer caption");
+        f.addLabel("lblLonger", "A much longer caption").centred = true;
         f.addTextBox("txtB");
         f.addLabel("lblA", "A");
         f.addTextBox("txtA");
@@ -85,9 +86,12 @@ TEST(QtView, WidgetsFollowEveryChangeOfTheLogic) {
     EXPECT_EQ(v->findChildren<QRadioButton*>().size(), 2)
         << "options are made once, in their frame";
     EXPECT_TRUE(v->widget("lblOff") == nullptr && s.button("optOne")->isChecked());
-    EXPECT_FALSE(s.button("Command1")->icon().isNull());
+    EXPECT_TRUE(s.button("Command1")->text() == "Go" && !s.button("Command1")->icon().isNull());
+    EXPECT_EQ(s.button("optOne")->parentWidget(), v->widget("Frame1"));
+    EXPECT_EQ(Find<QLabel>(v, "lblLonger")->alignment(), Qt::AlignCenter);
     auto* line = Find<QLineEdit>(v, "lblAns");
-    EXPECT_TRUE(line->isReadOnly() && line->alignment() == Qt::AlignCenter);
+    EXPECT_TRUE(line->isReadOnly() && line->alignment() == Qt::AlignCenter &&
+                line->focusPolicy() == Qt::ClickFocus);
     auto* answer = Find<QPlainTextEdit>(v, "txtAns");
     EXPECT_TRUE(answer->isReadOnly() && answer->lineWrapMode() == QPlainTextEdit::NoWrap &&
                 answer->horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOn);
@@ -98,6 +102,7 @@ TEST(QtView, WidgetsFollowEveryChangeOfTheLogic) {
     f.setCaption("lblA", "A caption longer than any the window was made for");
     f.setText("txtA", "a text longer than its box, shown from its start");
     f.setText("txtAns", "1\r\n2");
+    f.setText("txtNotes", "bare\nline");
     f.setValue("optTwo", true);
     f.setValue("chkThree", true);
     f.setCaption("Frame1", "Chosen");
@@ -118,6 +123,7 @@ TEST(QtView, WidgetsFollowEveryChangeOfTheLogic) {
     auto* edit = Find<QLineEdit>(v, "txtA");
     EXPECT_TRUE(edit->text() == f.text("txtA") && edit->cursorPosition() == 0) << "from its start";
     EXPECT_EQ(answer->toPlainText(), "1\n2");
+    EXPECT_EQ(f.text("txtNotes"), "bare\nline") << "what the logic writes is not typed back";
     EXPECT_TRUE(!s.button("optOne")->isChecked() && s.button("optTwo")->isChecked());
     EXPECT_TRUE(s.button("chkThree")->isChecked());
     EXPECT_EQ(Find<QGroupBox>(v, "Frame1")->title(), "Chosen");
@@ -138,9 +144,10 @@ TEST(QtView, TheUsersEditsAndClicksReachTheLogic) {
     QTest::keyClicks(Find<QPlainTextEdit>(v, "txtNotes"), "a\rb");
     auto* combo = Find<QComboBox>(v, "cboEdit");
     QTest::keyClicks(combo->lineEdit(), "w");
+    QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
     EXPECT_EQ(QStringList({s.f.text("txtA"), s.f.text("txtNotes"), s.f.text("cboEdit"),
-                           combo->currentText()}),
-              QStringList({"12", "a\r\nb", "w", "w"}))
+                           combo->currentText(), QString::number(combo->count())}),
+              QStringList({"12", "a\r\nb", "w", "w", "2"}))
         << "lines go back as CR LF";
     QTest::keyClick(combo, Qt::Key_Down);
     // An option clicked when on stays on, which Qt alone would turn off.
@@ -166,6 +173,13 @@ TEST(QtView, ColumnsTabOrderAndOnlyTheUsersOwnMovesInAList) {
     EXPECT_EQ(v->widget("txtA")->x(), v->widget("txtB")->x());
     EXPECT_GT(v->widget("txtA")->x(), v->widget("lblLonger")->geometry().right());
     EXPECT_GT(v->widget("Image1")->x(), v->widget("txtAns")->geometry().right()) << "the side";
+    int above = v->findChild<QMenuBar*>()->geometry().bottom();
+    for (const char* name :
+         {"lblA", "lblLonger", "Frame1", "lstPick", "txtN", "txtAns", "Command1"}) {
+        EXPECT_GT(v->widget(name)->y(), above) << name << " stands below the row above";
+        above = v->widget(name)->y();
+    }
+    EXPECT_EQ(v->minimumSize(), v->maximumSize()) << "a fixed size";
     v->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(v));
     v->widget("txtA")->setFocus();
@@ -187,12 +201,16 @@ TEST(QtView, ColumnsTabOrderAndOnlyTheUsersOwnMovesInAList) {
     auto* list = Find<QListWidget>(v, "lstPick");
     QApplication::processEvents();
     EXPECT_TRUE(s.log.isEmpty() && list->currentRow() == -1) << "the focus passing chose nothing";
-    const QPoint p = list->visualItemRect(list->item(0)).center();
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, p);
-    QApplication::processEvents();
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, p);
     QTest::keyClick(list, Qt::Key_Down);
-    EXPECT_EQ(s.log, QStringList({"lstPick#p", "lstPick#p", "lstPick#q"}));
+    QApplication::processEvents();
+    const QPoint q = list->visualItemRect(list->item(1)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, q);
+    EXPECT_EQ(s.log, QStringList({"lstPick#p", "lstPick#q"})) << "one click, one Click";
+    QApplication::processEvents();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, q);
+    QApplication::processEvents();
+    QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(s.log, QStringList({"lstPick#p", "lstPick#q", "lstPick#q", "lstPick#r"}));
 }
 
 TEST(QtWindows, HomeStandsAtItsStoredPlaceAndTheOthersBesideIt) {
@@ -212,8 +230,8 @@ TEST(QtWindows, HomeStandsAtItsStoredPlaceAndTheOthersBesideIt) {
     sfm->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(closed.isNull()) << "an unloaded window's view goes with it";
-    home->move(home->logicalDpiX() * 23, 0);  // 23 inches are 33120 twips
-    EXPECT_EQ(form.left(), 33120);
+    home->move(home->logicalDpiX() * 23, home->logicalDpiY());  // 33120 and 1440 twips
+    EXPECT_TRUE(form.left() == 33120 && form.top() == 1440);
     home->close();
     EXPECT_EQ(h.ui.boxes, QStringList("fatal: Run-time error '6':\r\n\r\nOverflow"))
         << "a place beyond 16 bits is not stored";
