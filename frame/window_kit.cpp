@@ -13,16 +13,14 @@ QString DmsExample() {
 }
 
 const QStringList& NotYetBuilt() {
-    static const QStringList names{
-        "form1",           "frmConversions",   "frmCircleData",    "frmCirDivided",
-        "frmCircSegments", "frmPolygons",      "frmDistTwoPoints", "frmMidTwoPoints",
-        "frmArcCenter",    "frmIntersect",     "frmInclineOfLine", "frmPolar",
-        "frmRotate",       "frmTangency",      "frmBallSub",       "frmBallToBall",
-        "frmFaceToBall",   "frmTapers",        "frmRoll",          "frmSinePlate",
-        "frmTruePos",      "frmPinInaDiamond", "frmTap",           "frmDrillTip",
-        "frmCounterSink",  "frmIpmIpr",        "frmCusp",          "frmTRC",
-        "frmIK",           "frmWeight",        "frmGrid",          "frmLatheDrill",
-        "frmLatheThread"};
+    static const QStringList names =
+        QString(
+            "form1 frmCircleData frmCirDivided frmCircSegments frmPolygons frmDistTwoPoints "
+            "frmMidTwoPoints frmArcCenter frmIntersect frmInclineOfLine frmPolar frmRotate "
+            "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
+            "frmSinePlate frmTruePos frmPinInaDiamond frmTap frmDrillTip frmCounterSink "
+            "frmIpmIpr frmCusp frmTRC frmIK frmGrid frmLatheDrill frmLatheThread")
+            .split(u' ');
     return names;
 }
 

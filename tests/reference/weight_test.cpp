@@ -1,0 +1,81 @@
+#include <gtest/gtest.h>
+
+#include "reference/weight.h"
+#include "tests/support/harness.h"
+
+namespace tavrin {
+namespace {
+
+using testing::Harness;
+
+// 1.375 by .625 (flat), 7.25 long; figures worked apart from the code.
+TEST(WeightSolver, EachShapeInBothMaterialsToTwoPlaces) {
+    const std::tuple<Stock, double, double> rows[] = {
+        {Stock::Round, 3.05, 1.06},   {Stock::Flat, 1.77, .61},     {Stock::Square, 3.89, 1.35},
+        {Stock::Hexagon, 3.37, 1.17}, {Stock::Octagon, 3.22, 1.11},
+    };
+    for (const auto& [shape, steel, aluminium] : rows) {
+        EXPECT_EQ(PieceWeight(shape, true, 1.375, .625, 7.25).value(), steel);
+        EXPECT_EQ(PieceWeight(shape, false, 1.375, .625, 7.25).value(), aluminium);
+    }
+    EXPECT_EQ(PieceWeight(Stock::Round, true, -1, 9, 12).value(), 2.67);  // squared, no height
+}
+
+TEST(WeightSolver, TheSixLines) {
+    EXPECT_EQ(WeightAnswer(26.7, 12, 10, 2),
+              "Solid Weight[lbs]=  26.7\r\nSolid Weight[kg]=  12.111\r\nLength[feet] =  10\r\n"
+              "Length[meters]=  3.048\r\nCost= $53.40\r\nCost per Piece= $5.34");
+}
+
+// Steel round bar 1 by 12 unless a step says otherwise; the box shown, then
+// the answer's first line.
+TEST(Weight, CalculateRows) {
+    const char* const fill = "Error, One or more data fields are empty.";
+    const std::pair<QStringList, QString> rows[] = {
+        {{}, "|Solid Weight[lbs]=  2.67"},
+        {{"Option2"}, "|Solid Weight[lbs]=  .92"},
+        {{"txtQtyW=10"}, "|Solid Weight[lbs]=  26.7"},  // ten rounded pieces
+        {{"txtThruW=2"}, "|Solid Weight[lbs]= -8.02"},  // the hole goes by the round factor
+        {{"popStockType#1", "txtHeightW=.5", "txtThruW=.25"}, "|Solid Weight[lbs]=  1.53"},
+        {{"Option2", "popStockType#3", "txtThruW=-1"}, "|Solid Weight[lbs]=  1.02"},
+        {{"popStockType=Round Stock"}, "|Solid Weight[lbs]=  0"},  // no shape chosen
+        {{"popStockType#1"}, QString(fill) + "|earlier"},          // flat needs its height
+        {{"txtThruW="}, QString(fill) + "|earlier"},
+        {{"txtDiaW="}, QString(fill) + "|earlier"},
+        {{"txtLengthW="}, QString(fill) + "|earlier"},
+        {{"txtQtyW="}, "Run-time error '6':\r\n\r\nOverflow|Calculating..."},
+    };
+    for (const auto& [steps, answer] : rows) {
+        Harness h;
+        Form& f = h.run("frmWeight", {"txtWeightAns=earlier", "txtLengthW=12", "txtDiaW=1"});
+        h.run("frmWeight", steps + QStringList{"Command1"});
+        EXPECT_EQ(h.lastBox() + '|' + f.text("txtWeightAns").section("\r\n", 0, 0), answer)
+            << steps.join(' ');
+    }
+}
+
+TEST(Weight, ShapesSetTheSizeCaptionAndHeightClearAllKeepsTheCost) {
+    Harness h;
+    Form& f = h.open("frmWeight");
+    EXPECT_EQ(f.text("txtThruW") + f.text("txtQtyW") + f.text("txtCost") + f.text("popStockType"),
+              "010Round Stock");
+    const std::tuple<int, const char*, bool> shapes[] = {{1, "Width", true},
+                                                         {2, "Square Size", false},
+                                                         {3, "Hex Size", false},
+                                                         {4, "Oct Size", false},
+                                                         {0, "Diameter", false}};
+    for (const auto& [index, caption, height] : shapes) {
+        h.run("frmWeight", {QString("popStockType#%1").arg(index)});
+        EXPECT_EQ(f.caption("Field1667"), caption);
+        EXPECT_EQ(std::pair(f.control("txtHeightW").visible, f.control("Label1651").visible),
+                  std::pair(height, height));
+    }
+    h.run("frmWeight",
+          {"txtLengthW=1", "txtDiaW=1", "txtHeightW=1", "txtCost=3", "Command1", "Command2"});
+    EXPECT_EQ(f.text("txtLengthW") + f.text("txtDiaW") + f.text("txtHeightW") + f.text("txtThruW") +
+                  f.text("txtQtyW") + f.text("txtWeightAns") + f.text("txtCost"),
+              "3");
+}
+
+}  // namespace
+}  // namespace tavrin
