@@ -452,6 +452,12 @@ void FormView::titleChanged() {
     }
 }
 
+void FormView::focusMoved(const Control& control) {
+    if (QWidget* w = widgets_.value(control.name)) {
+        w->setFocus(Qt::OtherFocusReason);
+    }
+}
+
 void FormView::sync(const Control& c) {
     syncing_ = true;
     if (QAction* action = actions_.value(c.name)) {

@@ -28,6 +28,7 @@ class FormView : public QWidget, public FormObserver {
 
     void controlChanged(const Control& control) override;
     void titleChanged() override;
+    void focusMoved(const Control& control) override;
 
   protected:
     void closeEvent(QCloseEvent* event) override;

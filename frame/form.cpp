@@ -307,6 +307,14 @@ void Form::clearList(const QString& name) {
     changed(c);
 }
 
+void Form::setFocus(const QString& name) {
+    const Control& c = control(name);
+    focus_ = name;
+    if (observer_ != nullptr) {
+        observer_->focusMoved(c);
+    }
+}
+
 void Form::setVisible(const QString& name, bool visible) {
     Control& c = mutableControl(name);
     c.visible = visible;

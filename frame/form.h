@@ -94,6 +94,7 @@ class FormObserver {
     virtual ~FormObserver() = default;
     virtual void controlChanged(const Control& control) = 0;
     virtual void titleChanged() = 0;
+    virtual void focusMoved(const Control& control) { (void)control; }
 };
 
 // One window: its declared controls and layout, its handlers, and the state of
@@ -167,6 +168,9 @@ class Form {
     void setVisible(const QString& name, bool visible);
     void setEnabled(const QString& name, bool enabled);
     void setPicture(const QString& name, const QString& picture);
+    // Puts the focus on a control; the few handlers that move it say so.
+    void setFocus(const QString& name);
+    const QString& focus() const { return focus_; }
 
     // Position in twips; read and written for the home window.
     double left() const { return left_; }
@@ -200,6 +204,7 @@ class Form {
     double left_ = 0;
     double top_ = 0;
     FormObserver* observer_ = nullptr;
+    QString focus_;
 };
 
 }  // namespace tavrin

@@ -18,8 +18,8 @@ const QStringList& NotYetBuilt() {
             "form1 frmCircleData frmCirDivided frmCircSegments frmPolygons frmDistTwoPoints "
             "frmMidTwoPoints frmArcCenter frmIntersect frmInclineOfLine frmPolar frmRotate "
             "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
-            "frmSinePlate frmTruePos frmPinInaDiamond frmTap frmDrillTip frmCounterSink "
-            "frmIpmIpr frmCusp frmTRC frmIK frmGrid frmLatheDrill frmLatheThread")
+            "frmSinePlate frmTruePos frmPinInaDiamond "
+            "frmGrid frmLatheDrill frmLatheThread")
             .split(u' ');
     return names;
 }
@@ -30,6 +30,12 @@ void ShowIfBuilt(App& app, const QString& name) {
     } else if (!NotYetBuilt().contains(name)) {
         throw std::logic_error("no window " + name.toStdString());
     }
+}
+
+void DeclarePictureWindow(Form& f, const QString& title, const QString& picture) {
+    f.setTitle(title);
+    f.addImage("Image1", picture);
+    f.addRow(RowKind::Line, {"Image1"});
 }
 
 void ShowAnswerBox(Form& f, const QStringList& entries, const QStringList& answer, bool shown) {

@@ -26,6 +26,10 @@ const QStringList& NotYetBuilt();
 // on the not-yet-built list is a programming fault and throws.
 void ShowIfBuilt(App& app, const QString& name);
 
+// A picture window: one drawing fills it, under the title; it has no code of
+// its own and goes by its close box.
+void DeclarePictureWindow(Form& f, const QString& title, const QString& picture);
+
 // The answer box and its own Done button take the place of the entry
 // controls, or give it back.
 void ShowAnswerBox(Form& f, const QStringList& entries, const QStringList& answer, bool shown);

@@ -32,7 +32,7 @@ bool IsClickable(ControlKind k) {
            k == ControlKind::MenuItem;
 }
 
-JsonLine Describe(const QString& target, const Control& c) {
+JsonLine Describe(const QString& target, const Control& c, bool focused) {
     JsonLine line;
     line.add("control", target);
     switch (c.kind) {
@@ -62,6 +62,9 @@ JsonLine Describe(const QString& target, const Control& c) {
     }
     if (IsList(c.kind)) {
         line.add("index", c.listIndex).add("items", QJsonArray::fromStringList(c.items));
+    }
+    if (focused) {
+        line.add("focus", true);  // only where a handler put it
     }
     return line;
 }
@@ -156,7 +159,7 @@ Driver::Status Driver::show(const QString& target) {
     if (!form->has(controlName)) {
         return fail(QStringLiteral("no control %1 on %2").arg(controlName, formName));
     }
-    Write(out_, Describe(target, form->control(controlName)));
+    Write(out_, Describe(target, form->control(controlName), form->focus() == controlName));
     return Status::Going;
 }
 
