@@ -1,23 +1,17 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/harness.h"
-#include "threads/countersink.h"
-#include "threads/drill_tip.h"
 
 namespace tavrin {
 namespace {
 
 // Drill tip and countersink: figures worked apart from the code.
-TEST(DrillTipSolver, PointLessFlat) {
-    EXPECT_EQ(DrillTipCompensation(.5, 118, 0, 4).value(), .1502);
-    EXPECT_EQ(DrillTipCompensation(.5, 118, .1, 4).value(), .1202);
-    EXPECT_EQ(DrillTipCompensation(.5, 180, 0, 4).value(), 0);  // a huge tangent, no message
-}
-
 TEST(DrillTip, CalculateRows) {
     const std::pair<QStringList, const char*> rows[] = {
         {{"txtDrillDiam=.5", "txtDrillAngle=118"}, "|Compensation=  .150215"},
+        {{"txtDrillDiam=.5", "txtDrillAngle=118", "txtDrillFlat=.1"}, "|Compensation=  .120172"},
         {{"txtDrillDiam=.5", "txtDrillAngle=118", "txtDrillFlat=.5"}, "|Compensation=  0"},
+        {{"txtDrillDiam=.5", "txtDrillAngle=180"}, "|Compensation=  0"},  // a huge tangent
         {{"txtDrillDiam=.5", "txtDrillAngle=118", "txtDrillFlat=.6"},
          "Error, Flat size cannot be greater than the drill diameter.|earlier"},
         {{"txtDrillDiam=-1", "txtDrillAngle=118"},  // the flat test first: -1 is below 0
@@ -34,13 +28,6 @@ TEST(DrillTip, CalculateRows) {
     }
 }
 
-TEST(CountersinkSolver, ShortPiAndTheAngleToOnePlace) {
-    EXPECT_EQ(CountersinkDepth(82, .5, 6).value(), .287591);
-    EXPECT_EQ(CountersinkDiameter(82, .2875, 4).value(), .4998);
-    EXPECT_EQ(CountersinkAngle(.5, .2875).value(), 82);
-    EXPECT_EQ(CountersinkAngle(.5, .3).value(), 79.6);
-}
-
 // Angle, diameter, depth typed; the box shown and the three fields after.
 TEST(Countersink, CalculateRows) {
     const std::tuple<QStringList, const char*, const char*> rows[] = {
@@ -49,6 +36,7 @@ TEST(Countersink, CalculateRows) {
         {{"82", ".5", ""}, "", "82|.5| .2876"},
         {{"82", "", ".2875"}, "", "82| .4998|.2875"},
         {{"", ".5", ".2875"}, "", " 82|.5|.2875"},
+        {{"", ".5", ".3"}, "", " 79.6|.5|.3"},  // one place, whatever DecPlace says
         {{"0", ".5", ""}, "Error, Values must be greater than zero.", "0|.5|"},
         {{"82", "x", ""}, "Error, Values must be greater than zero.", "82|x|"},
         {{"", ".5", "0"}, "Error, Values must be greater than zero.", "|.5|0"},
