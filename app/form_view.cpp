@@ -99,6 +99,16 @@ void FormView::dropForm() {
 }
 
 QWidget* FormView::createWidget(const Control& c, QWidget* parent) {
+    QWidget* w = createBareWidget(c, parent);
+    if (c.keepsPlace) {
+        QSizePolicy policy = w->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        w->setSizePolicy(policy);
+    }
+    return w;
+}
+
+QWidget* FormView::createBareWidget(const Control& c, QWidget* parent) {
     switch (c.kind) {
         case ControlKind::Label: {
             auto* label = new QLabel(parent);

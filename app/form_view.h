@@ -37,6 +37,7 @@ class FormView : public QWidget, public FormObserver {
 
   private:
     QWidget* createWidget(const Control& c, QWidget* parent);
+    QWidget* createBareWidget(const Control& c, QWidget* parent);
     QWidget* createTextBox(const Control& c, QWidget* parent);
     QWidget* createList(const Control& c, QWidget* parent);
     void buildMenus();

@@ -48,6 +48,8 @@ struct Control {
     // Declared for the handlers but drawn by no row (a caption the picture
     // carries itself, say).
     bool offLayout = false;
+    // Hidden, it keeps its place, so that the rows below stand still.
+    bool keepsPlace = false;
 
     // Text boxes.
     bool locked = false;

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+
 #include "app/pictures.h"
 #include "frame/form_registry.h"
 #include "tests/qt/qt_harness.h"
@@ -28,6 +30,23 @@ TEST(QtCatalogue, EveryWindowOpensWithItsPicturesAndCloses) {
             EXPECT_EQ(h.app.find(name), nullptr) << name;
         }
     }
+}
+
+// The solver dressed for the one five-field figure, then for a one-field
+// figure: the window keeps its place and size.
+TEST(QtCatalogue, TheAreaSolverStandsStillAsTheFigureChanges) {
+    QtHarness h;
+    h.open("form1");
+    h.app.userSelect(*h.app.find("form1"), "lstArea", 38);
+    FormView* solver = h.view("form2");
+    QApplication::processEvents();
+    testing::SavePicture(h.view("form1"), "form1-trapezium");
+    testing::SavePicture(solver, "form2-trapezium");
+    const QRect dressed = solver->geometry();
+    h.app.userSelect(*h.app.find("form1"), "lstArea", 7);
+    QApplication::processEvents();
+    EXPECT_EQ(solver->geometry(), dressed);
+    testing::SavePicture(solver, "form2-cube");
 }
 
 }  // namespace
