@@ -8,23 +8,26 @@ namespace {
 
 using testing::Harness;
 
-// 1.375 by .625 (flat), 7.25 long; figures worked apart from the code.
+// 12.375 by 5.625 (flat), 144.25 long: large enough for the last digit of
+// every factor to show. Figures worked apart from the code.
 TEST(WeightSolver, EachShapeInBothMaterialsToTwoPlaces) {
     const std::tuple<Stock, double, double> rows[] = {
-        {Stock::Round, 3.05, 1.06},   {Stock::Flat, 1.77, .61},     {Stock::Square, 3.89, 1.35},
-        {Stock::Hexagon, 3.37, 1.17}, {Stock::Octagon, 3.22, 1.11},
+        {Stock::Round, 4920.48, 1700.97},   {Stock::Flat, 2847.67, 987.38},
+        {Stock::Square, 6264.88, 2172.24},  {Stock::Hexagon, 5425.62, 1877.7},
+        {Stock::Octagon, 5189.99, 1793.02},
     };
     for (const auto& [shape, steel, aluminium] : rows) {
-        EXPECT_EQ(PieceWeight(shape, true, 1.375, .625, 7.25).value(), steel);
-        EXPECT_EQ(PieceWeight(shape, false, 1.375, .625, 7.25).value(), aluminium);
+        EXPECT_EQ(PieceWeight(shape, true, 12.375, 5.625, 144.25).value(), steel);
+        EXPECT_EQ(PieceWeight(shape, false, 12.375, 5.625, 144.25).value(), aluminium);
     }
     EXPECT_EQ(PieceWeight(Stock::Round, true, -1, 9, 12).value(), 2.67);  // squared, no height
 }
 
 TEST(WeightSolver, TheSixLines) {
-    EXPECT_EQ(WeightAnswer(26.7, 12, 10, 2),
-              "Solid Weight[lbs]=  26.7\r\nSolid Weight[kg]=  12.111\r\nLength[feet] =  10\r\n"
-              "Length[meters]=  3.048\r\nCost= $53.40\r\nCost per Piece= $5.34");
+    EXPECT_EQ(WeightAnswer(123456.789, 12.34567, 3, 2.5),
+              "Solid Weight[lbs]=  123456.789\r\nSolid Weight[kg]=  55999.058\r\n"
+              "Length[feet] =  3.0864\r\nLength[meters]=  .9407\r\nCost= $308641.97\r\n"
+              "Cost per Piece= $102880.66");
 }
 
 // Steel round bar 1 by 12 unless a step says otherwise; the box shown, then
