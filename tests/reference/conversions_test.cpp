@@ -69,7 +69,6 @@ TEST(Conversions, HandlerRows) {
         {{"popUnitType#6", "txtToConvert=-40"}, "|celsius= -40"},
         {{"popUnitType#6", "txtToConvert="}, "|celsius= -17.7778"},
         {{"txtToConvert=2.54", "lstUnitToConv#1"}, "|in=  1"},
-        {{"txtToConvert=1.2.3"}, "Error, Invalid input|cm=  2.54"},
         {{"popUnitType=Length"}, "Error, Please select unit type.|cm=  2.54"},
         {{"popUnitType=Length", "txtToConvert=x"}, "Error, Invalid input|cm=  2.54"},
     };

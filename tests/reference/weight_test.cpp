@@ -45,7 +45,6 @@ TEST(Weight, CalculateRows) {
         {{"popStockType#1"}, QString(fill) + "|earlier"},          // flat needs its height
         {{"txtThruW="}, QString(fill) + "|earlier"},
         {{"txtDiaW="}, QString(fill) + "|earlier"},
-        {{"txtLengthW="}, QString(fill) + "|earlier"},
         {{"txtQtyW="}, "Run-time error '6':\r\n\r\nOverflow|Calculating..."},
     };
     for (const auto& [steps, answer] : rows) {
