@@ -33,6 +33,8 @@ class RecordingUi : public Ui {
     float clock = 0;
     // Told of each box as it comes.
     std::function<void(const Shown&)> onShown;
+    // Told of each pass a long loop gives the display.
+    std::function<void()> onProcessEvents;
 
     void showWindow(Form& form) override;
     void showModal(Form& form) override;
@@ -40,7 +42,11 @@ class RecordingUi : public Ui {
     void message(const QString& title, const QString& text) override;
     bool question(const QString& title, const QString& text) override;
     void fatal(const QString& title, const QString& text) override;
-    void processEvents() override {}
+    void processEvents() override {
+        if (onProcessEvents) {
+            onProcessEvents();
+        }
+    }
     bool startProgram(const QString& program) override;
     float secondsSinceMidnight() override { return clock += 0.5f; }
     void quit() override { ++quits; }

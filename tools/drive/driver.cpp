@@ -72,6 +72,17 @@ JsonLine Describe(const QString& target, const Control& c, bool focused) {
 }  // namespace
 
 Driver::Driver(App& app, RecordingUi& ui, std::ostream& out) : app_(app), ui_(ui), out_(out) {
+    ui_.onProcessEvents = [this] {
+        if (busy_ != nullptr && ++passes_ == kEndlessPasses) {
+            Form& form = *busy_;
+            busy_ = nullptr;
+            Write(out_, JsonLine()
+                            .add("event", "closed")
+                            .add("window", form.name())
+                            .add("text", "still running after 100000 passes"));
+            app_.userClose(form);
+        }
+    };
     ui_.onShown = [this](const RecordingUi::Shown& box) {
         switch (box.kind) {
             case RecordingUi::Kind::Message:
@@ -220,6 +231,8 @@ Driver::Status Driver::run(const QString& rawLine) {
             return fail(QStringLiteral("no control %1 on %2").arg(controlName, formName));
         }
         const Control& c = form->control(controlName);
+        busy_ = form;
+        passes_ = 0;
         if (verb == "set" || verb == "type") {
             const bool fits =
                 verb == "set" ? c.kind == ControlKind::TextBox : c.kind == ControlKind::Combo;
@@ -252,8 +265,10 @@ Driver::Status Driver::run(const QString& rawLine) {
             }
             app_.userSpin(*form, controlName, argument == "up" ? 1 : -1);
         }
+        busy_ = nullptr;
         return afterStep();
     } catch (const std::logic_error& fault) {
+        busy_ = nullptr;
         return fail(QString::fromStdString(fault.what()));
     }
 }

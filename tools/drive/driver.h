@@ -25,6 +25,12 @@ class Driver {
     Form* openForm(const QString& name, QString& why);
     Status show(const QString& target);
 
+    // A loop that gives the display this many passes in one step has no end
+    // a script could wait for: its window is closed, as a user would close it.
+    static constexpr int kEndlessPasses = 100000;
+    Form* busy_ = nullptr;
+    int passes_ = 0;
+
     App& app_;
     RecordingUi& ui_;
     std::ostream& out_;
