@@ -19,7 +19,7 @@ const QStringList& NotYetBuilt() {
             "frmMidTwoPoints frmArcCenter frmIntersect frmInclineOfLine frmPolar frmRotate "
             "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
             "frmSinePlate frmTruePos frmPinInaDiamond "
-            "frmLatheDrill frmLatheThread")
+            "frmLatheThread")
             .split(u' ');
     return names;
 }
