@@ -18,9 +18,8 @@ const QStringList& NotYetBuilt() {
             "frmCircleData frmCirDivided frmCircSegments frmPolygons frmDistTwoPoints "
             "frmMidTwoPoints frmArcCenter frmIntersect frmInclineOfLine frmPolar frmRotate "
             "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
-            "frmSinePlate frmTruePos frmPinInaDiamond "
-            "frmLatheThread")
-            .split(u' ');
+            "frmSinePlate frmTruePos frmPinInaDiamond")
+            .split(u' ', Qt::SkipEmptyParts);
     return names;
 }
 
