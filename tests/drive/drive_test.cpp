@@ -107,6 +107,24 @@ TEST(Drive, WhatItCannotCarryOutIsAnErrorAndTheLastLine) {
     EXPECT_EQ(Drive("", {"--colour"}).exitCode, 2) << "an unknown argument";
 }
 
+// A loop without end is cut short: its window closed, the next command read.
+TEST(Drive, ALoopWithoutEndClosesItsWindowAndTheFocusShows) {
+    const QByteArray grid = "open frmGrid\n";
+    QByteArray script = grid;
+    for (const char* field : {"txtX", "txtY", "txtXstep", "txtYstep"}) {
+        script += QByteArray("set frmGrid.") + field + " \"1\"\n";
+    }
+    const auto s = Drive(script + "set frmGrid.txtHx \"-2\"\nset frmGrid.txtHy \"-3\"\n" +
+                         "click frmGrid.Command1\nshow frmGrid\nopen frmCounterSink\n" +
+                         "click frmCounterSink.Command1\nshow frmCounterSink.txtDiameter\n");
+    EXPECT_EQ(
+        s.lines.mid(0, 2),
+        QStringList(
+            {R"({"event": "closed", "window": "frmGrid", "text": "still running after 100000 passes"})",
+             R"({"window": "frmGrid", "open": false})"}));
+    EXPECT_TRUE(Json(s.lines.last())["focus"].toBool()) << s.lines.last().toStdString();
+}
+
 TEST(Drive, SettingsLiveInTheNamedFileAndClosingHomeEndsTheRun) {
     QTemporaryDir dir;
     const QStringList args{"--settings", dir.filePath("tavrin.ini")};
