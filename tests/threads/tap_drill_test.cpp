@@ -9,7 +9,7 @@ namespace {
 TEST(TapDrillSolver, EachTapItsConstant) {
     EXPECT_EQ(TapMinorDiameter(false, true, false, .25, 20, 75).value(), 0.2245);
     EXPECT_EQ(TapMinorDiameter(false, false, true, 10, 24, 75).value(), 0.149375);  // screw #10
-    EXPECT_EQ(TapMinorDiameter(true, false, false, 6, 1, 75).value(), 5.025720966484801);
+    EXPECT_EQ(TapMinorDiameter(true, false, false, 10, 1.5, 75).value(), 8.538581449727202);
     EXPECT_EQ(TapMinorDiameter(true, true, false, 8, 1.25, 65).value(), 7.44750441996464);
     // just below the tie at .20125: both lines from the unrounded diameter
     EXPECT_EQ(TapDrillAnswer(0.20124999999999998, false, 4), "Minor Dia.=  .2012\r\n[ 5.1117 mm]");
@@ -20,6 +20,7 @@ TEST(TapDrillSolver, EachTapItsConstant) {
 TEST(TapDrill, CalculateRows) {
     const std::pair<QStringList, const char*> rows[] = {
         {{"txtTapSize=.25", "txtPitch=20"}, "|Minor Dia.=  .20125\r\n[ 5.11175 mm]"},
+        {{"popTypeTap#1", "txtTapSize=.25", "txtPitch=20"}, "|Minor Dia.=  .2245\r\n[ 5.7023 mm]"},
         {{"popTypeTap=Forming Tap", "txtTapSize=.25", "txtPitch=20"}, "|Minor Dia.=  0\r\n[ 0 mm]"},
         {{"txtTapSize=.25"}, "Error, Please fill all three data fields.|earlier"},
         {{"txtPitch=20", "Command2", "txtPitch=20", "txtTapSize=1"},
@@ -51,7 +52,7 @@ TEST(TapDrill, TheTwoBoxesExcludeEachOtherAndSetTheCaptions) {
     EXPECT_EQ(state(), "Tap Diameter|Pitch|10");
     h.run("frmTap", {"chkTapNo"});
     EXPECT_EQ(state(), "Tap #|TPI|01");
-    h.run("frmTap", {"chkTapNo", "chkMetTap", "chkMetTap"});
+    h.run("frmTap", {"chkTapNo"});
     EXPECT_EQ(state(), "Tap Diameter|TPI|00");
 }
 
