@@ -15,7 +15,7 @@ QString DmsExample() {
 const QStringList& NotYetBuilt() {
     static const QStringList names =
         QString(
-            "form1 frmCirDivided frmCircSegments frmPolygons frmDistTwoPoints "
+            "form1 frmCircSegments frmPolygons frmDistTwoPoints "
             "frmMidTwoPoints frmArcCenter frmIntersect frmInclineOfLine frmPolar frmRotate "
             "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
             "frmSinePlate frmTruePos frmPinInaDiamond frmTap frmDrillTip frmCounterSink "
