@@ -15,8 +15,8 @@ QString DmsExample() {
 const QStringList& NotYetBuilt() {
     static const QStringList names =
         QString(
-            "form1 frmCircSegments frmPolygons frmDistTwoPoints "
-            "frmMidTwoPoints frmArcCenter frmIntersect frmInclineOfLine frmPolar frmRotate "
+            "form1 frmCircSegments frmPolygons "
+            "frmPolar frmRotate "
             "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
             "frmSinePlate frmTruePos frmPinInaDiamond frmTap frmDrillTip frmCounterSink "
             "frmIpmIpr frmCusp frmTRC frmIK frmGrid frmLatheDrill frmLatheThread")
