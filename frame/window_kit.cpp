@@ -15,7 +15,7 @@ QString DmsExample() {
 const QStringList& NotYetBuilt() {
     static const QStringList names =
         QString(
-            "form1 frmCircSegments "
+            "form1 "
             "frmPolar frmRotate "
             "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
             "frmSinePlate frmTruePos frmPinInaDiamond frmTap frmDrillTip frmCounterSink "
