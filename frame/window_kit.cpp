@@ -16,7 +16,7 @@ const QStringList& NotYetBuilt() {
     static const QStringList names =
         QString(
             "form1 "
-            "frmPolar frmRotate "
+            "frmRotate "
             "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
             "frmSinePlate frmTruePos frmPinInaDiamond frmTap frmDrillTip frmCounterSink "
             "frmIpmIpr frmCusp frmTRC frmIK frmGrid frmLatheDrill frmLatheThread")
