@@ -16,7 +16,6 @@ const QStringList& NotYetBuilt() {
     static const QStringList names =
         QString(
             "form1 "
-            "frmRotate "
             "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
             "frmSinePlate frmTruePos frmPinInaDiamond frmTap frmDrillTip frmCounterSink "
             "frmIpmIpr frmCusp frmTRC frmIK frmGrid frmLatheDrill frmLatheThread")
