@@ -10,6 +10,7 @@ namespace {
 using tavrin::testing::Drive;
 
 const QString kModal = R"({"event": "modal", "form": "frmPointsRotate"})";
+const QByteArray kNext = "show frmPointsRotate.lblPointNum\nclick frmPointsRotate.Command1\n";
 
 QByteArray Points(int count) {
     return "open frmRotate\nset frmRotate.cboPoints \"" + QByteArray::number(count) +
@@ -17,39 +18,26 @@ QByteArray Points(int count) {
 }
 
 TEST(DriveModal, EachPointWaitsForItsOwnWindowThenTheHandlerGoesOn) {
-    const QByteArray next = "show frmPointsRotate.lblPointNum\nclick frmPointsRotate.Command1\n";
-    const auto none = Drive(Points(0) + "show frmRotate\n");
-    EXPECT_EQ(none.lines.size(), 1);
-    const auto one = Drive(Points(1) + next + "show frmRotate.txtRotated\n");
+    EXPECT_EQ(Drive(Points(0) + "show frmRotate\n").lines.size(), 1);
+    const auto one = Drive(Points(1) + kNext + "show frmRotate.txtRotated\n");
     ASSERT_EQ(one.lines.size(), 3);
     EXPECT_EQ(one.lines[0], kModal);
     EXPECT_TRUE(one.lines[1].contains("Point # 1")) << "commands run while the window is up";
     EXPECT_TRUE(one.lines[2].contains(R"("text": "X)")) << "the handler went on after it";
-    QByteArray forty = Points(40);
-    for (int i = 0; i < 40; ++i) {
-        forty += next;
-    }
-    const auto s = Drive(forty);
-    EXPECT_EQ(s.exitCode, 0);
-    ASSERT_EQ(s.lines.size(), 80);
-    EXPECT_EQ(s.lines[78], kModal);
-    EXPECT_TRUE(s.lines[79].contains("Point # 40"));
+    const auto forty = Drive(Points(40) + kNext.repeated(40));
+    EXPECT_EQ(forty.exitCode, 0);
+    ASSERT_EQ(forty.lines.size(), 80);
+    EXPECT_TRUE(forty.lines[78] == kModal && forty.lines[79].contains("Point # 40"));
 }
 
-TEST(DriveModal, ClosingTheWindowEndsTheWaitAndTheInputEndingEndsTheRun) {
+TEST(DriveModal, ClosingEndsTheWaitAndTheInputOrAFaultEndsTheRun) {
     const auto closed = Drive(Points(1) + "close frmPointsRotate\nshow frmPointsRotate\n");
-    EXPECT_EQ(closed.lines.value(1), R"({"window": "frmPointsRotate", "open": true, "title": )"
-                                     R"("Points for Rotation"})")
-        << "the handler reads the window again, so it is loaded anew";
+    EXPECT_TRUE(closed.lines.value(1).contains(R"("open": true)")) << "read again, loaded anew";
     const auto ended = Drive(Points(2) + "click frmPointsRotate.Command1\n");
     EXPECT_EQ(ended.exitCode, 0);
     EXPECT_EQ(ended.lines, QStringList({kModal, kModal}));
-}
-
-TEST(DriveModal, AnErrorOrAFatalBoxInsideTheWaitEndsTheRun) {
     const auto error = Drive(Points(3) + "frobnicate\nshow frmRotate\n");
-    EXPECT_EQ(error.exitCode, 2);
-    EXPECT_EQ(error.lines.size(), 2);
+    EXPECT_TRUE(error.exitCode == 2 && error.lines.size() == 2);
     const auto fatal = Drive(Points(3) +
                              "open frmSfmToRpm\nset frmSfmToRpm.txtSfm \"1E400\"\n"
                              "set frmSfmToRpm.txtDia \"1\"\nclick frmSfmToRpm.Command1\n"

@@ -44,6 +44,8 @@ TEST(Rotate, EnterPointsAsksForEachPointInItsOwnModalWindow) {
     EXPECT_EQ(run.h.app.oldPointsText, " X 3 Y 4 \r\n X 1.50 Y \r\n");  // as typed
     run.h.run("frmRotate", {"Command2"});
     EXPECT_EQ(run.h.app.find("frmoldpoints")->text("Text1"), " X 3 Y 4 \r\n X 1.50 Y \r\n");
+    run.h.run("frmoldpoints", {"Command1"});  // Exit
+    EXPECT_EQ(run.h.app.find("frmoldpoints"), nullptr);
 }
 
 TEST(Rotate, NoPointsLeaveAnEmptyAnswerAndFortyComeOneByOne) {
@@ -67,13 +69,6 @@ TEST(Rotate, AModalWindowClosedByItsBoxCountsAsEmpty) {
     };
     Form& f = run.h.run("frmRotate", {"cboPoints=2", "Command1"});
     EXPECT_EQ(f.text("txtRotated"), "X 0 Y 0\r\nX 2 Y 0\r\n");
-}
-
-TEST(Rotate, OldPointsExitCloses) {
-    testing::Harness h;
-    h.run("frmRotate", {"Command2"});
-    h.run("frmoldpoints", {"Command1"});
-    EXPECT_EQ(h.app.find("frmoldpoints"), nullptr);
 }
 
 }  // namespace
