@@ -50,14 +50,30 @@ void QtUi::showModal(Form& form) {
     view->setWindowModality(Qt::ApplicationModal);
     view->show();
     view->raise();
+    view->activateWindow();
+    // As QDialog::exec: a loop of its own until the window is hidden or goes.
     QEventLoop loop;
+    modalLoops_.insert(&form, &loop);
     QObject::connect(view, &QObject::destroyed, &loop, &QEventLoop::quit);
-    loop.exec();
+    loop.exec(QEventLoop::DialogExec);
+    modalLoops_.remove(&form);
+}
+
+void QtUi::hideWindow(Form& form) {
+    if (FormView* view = views_.value(&form)) {
+        view->hide();
+    }
+    if (QEventLoop* loop = modalLoops_.value(&form)) {
+        loop->quit();
+    }
 }
 
 void QtUi::windowUnloaded(Form& form) {
     if (FormView* view = views_.take(&form)) {
         view->dropForm();
+    }
+    if (QEventLoop* loop = modalLoops_.value(&form)) {
+        loop->quit();
     }
 }
 

@@ -3,6 +3,8 @@
 #include <QHash>
 #include <QPointer>
 
+class QEventLoop;
+
 #include "frame/ui.h"
 
 namespace tavrin {
@@ -19,6 +21,7 @@ class QtUi : public Ui {
 
     void showWindow(Form& form) override;
     void showModal(Form& form) override;
+    void hideWindow(Form& form) override;
     void windowUnloaded(Form& form) override;
     void message(const QString& title, const QString& text) override;
     bool question(const QString& title, const QString& text) override;
@@ -34,6 +37,8 @@ class QtUi : public Ui {
 
     App* app_ = nullptr;
     QHash<const Form*, QPointer<FormView>> views_;
+    // The event loop of each window shown modal, while it waits.
+    QHash<const Form*, QEventLoop*> modalLoops_;
 };
 
 }  // namespace tavrin

@@ -57,6 +57,10 @@ Form& App::showModal(const QString& name) {
     return f;
 }
 
+void App::hide(Form& form) {
+    ui_.hideWindow(form);
+}
+
 void App::unload(Form& form) {
     form.fire(QString(), Event::Unload);
     auto it = std::find_if(loaded_.begin(), loaded_.end(),

@@ -45,7 +45,11 @@ class App {
     Form& load(const QString& name);
     // Loads if needed, shows without blocking, brings it forward.
     Form& show(const QString& name);
+    // Loads if needed and shows modal: returns once the window is hidden or
+    // unloaded, while other clicks run in between.
     Form& showModal(const QString& name);
+    // The window stays loaded, out of sight; a modal wait for it ends.
+    void hide(Form& form);
     // Runs the closing step and drops the window.
     void unload(Form& form);
     std::vector<Form*> loadedForms() const;

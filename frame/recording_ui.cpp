@@ -10,6 +10,19 @@ void RecordingUi::showWindow(Form& form) {
 
 void RecordingUi::showModal(Form& form) {
     shownWindows << form.name();
+    modal_.insert(&form);
+    if (onModal) {
+        onModal(form);
+    }
+    modal_.remove(&form);
+}
+
+void RecordingUi::hideWindow(Form& form) {
+    modal_.remove(&form);
+}
+
+void RecordingUi::windowUnloaded(Form& form) {
+    modal_.remove(&form);
 }
 
 void RecordingUi::record(Shown box) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <deque>
@@ -35,10 +36,14 @@ class RecordingUi : public Ui {
     std::function<void(const Shown&)> onShown;
     // Told of each pass a long loop gives the display.
     std::function<void()> onProcessEvents;
+    // Runs the user's steps while a window stands modal; without it the
+    // window is left at once, as if its user had hidden it straight away.
+    std::function<void(Form&)> onModal;
 
     void showWindow(Form& form) override;
     void showModal(Form& form) override;
-    void windowUnloaded(Form&) override {}
+    void hideWindow(Form& form) override;
+    void windowUnloaded(Form& form) override;
     void message(const QString& title, const QString& text) override;
     bool question(const QString& title, const QString& text) override;
     void fatal(const QString& title, const QString& text) override;
@@ -56,9 +61,13 @@ class RecordingUi : public Ui {
     QStringList messageTexts() const { return texts(Kind::Message); }
     QStringList questionTexts() const { return texts(Kind::Question); }
     QStringList fatalTexts() const { return texts(Kind::Fatal); }
+    // Shown modal and neither hidden nor unloaded since.
+    bool isModal(const Form& form) const { return modal_.contains(&form); }
 
   private:
     void record(Shown box);
+
+    QSet<const Form*> modal_;
 };
 
 }  // namespace tavrin

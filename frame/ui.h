@@ -14,7 +14,11 @@ class Ui {
     // Creates the window's view if it has none, shows it without blocking and
     // brings it forward.
     virtual void showWindow(Form& form) = 0;
+    // Shows the window modal and returns once it is hidden or unloaded.
     virtual void showModal(Form& form) = 0;
+    // The window stays loaded but is no longer shown. A display that shows
+    // nothing has nothing to hide.
+    virtual void hideWindow(Form& /*form*/) {}
     // The window is unloaded: its view goes.
     virtual void windowUnloaded(Form& form) = 0;
     // A box with the exclamation icon and the single button OK.

@@ -15,8 +15,6 @@ QString DmsExample() {
 const QStringList& NotYetBuilt() {
     static const QStringList names =
         QString(
-            "frmCircleData frmCirDivided frmCircSegments frmPolygons frmDistTwoPoints "
-            "frmMidTwoPoints frmArcCenter frmIntersect frmInclineOfLine frmPolar frmRotate "
             "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
             "frmSinePlate frmTruePos frmPinInaDiamond")
             .split(u' ', Qt::SkipEmptyParts);

@@ -56,7 +56,7 @@ TEST(Windows, EachDoorShowsItsWindowOrSaysWhy) {
     const std::tuple<const char*, const char*, QString> rows[] = {
         {"frmHome", "lstSelection#20", "frmSfmToRpm"},
         {"frmHome", "Combo1#2", "frmTrigMain"},  // the third default slot, by its text
-        {"frmHome", "Command1", ""},             // not built yet
+        {"frmHome", "Command1", "form1"},
         {"frmHome", "Command2", "Can't find the calculator!"},
         {"frmHome", "Command4", "frmQuickCode"},
         {"frmHome", "mnuDisclaimer", "frmDisclaimer"},

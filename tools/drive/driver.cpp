@@ -1,8 +1,10 @@
 #include "tools/drive/driver.h"
 
 #include <QJsonArray>
+#include <istream>
 #include <ostream>
 #include <stdexcept>
+#include <string>
 
 #include "frame/form_registry.h"
 #include "tools/drive/json_line.h"
@@ -71,7 +73,9 @@ JsonLine Describe(const QString& target, const Control& c, bool focused) {
 
 }  // namespace
 
-Driver::Driver(App& app, RecordingUi& ui, std::ostream& out) : app_(app), ui_(ui), out_(out) {
+Driver::Driver(App& app, RecordingUi& ui, std::ostream& out, std::istream& in)
+    : app_(app), ui_(ui), out_(out), in_(in) {
+    ui_.onModal = [this](Form& form) { answerModal(form); };
     ui_.onProcessEvents = [this] {
         if (busy_ != nullptr && ++passes_ == kEndlessPasses) {
             Form& form = *busy_;
@@ -103,6 +107,21 @@ Driver::Driver(App& app, RecordingUi& ui, std::ostream& out) : app_(app), ui_(ui
                 break;
         }
     };
+}
+
+void Driver::answerModal(Form& form) {
+    Write(out_, JsonLine().add("event", "modal").add("form", form.name()));
+    std::string line;
+    while (ui_.isModal(form)) {
+        // The input ends with the window up: as if the program were closed.
+        if (!std::getline(in_, line)) {
+            throw Stop{Status::Finished};
+        }
+        const Status status = run(QString::fromStdString(line));
+        if (status != Status::Going) {
+            throw Stop{status};
+        }
+    }
 }
 
 int Driver::ExitCode(Status status) {
@@ -270,6 +289,9 @@ Driver::Status Driver::run(const QString& rawLine) {
     } catch (const std::logic_error& fault) {
         busy_ = nullptr;
         return fail(QString::fromStdString(fault.what()));
+    } catch (const Stop& stop) {
+        busy_ = nullptr;
+        return stop.status;
     }
 }
 

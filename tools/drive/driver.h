@@ -13,13 +13,21 @@ class Driver {
   public:
     enum class Status { Going, Finished, Failed, Fatal };
 
-    // Writes each box the windows show as a JSON line, as it comes.
-    Driver(App& app, RecordingUi& ui, std::ostream& out);
+    // Writes each box the windows show as a JSON line, as it comes. While a
+    // window stands modal, the next commands are read from `in` until it is
+    // hidden or unloaded.
+    Driver(App& app, RecordingUi& ui, std::ostream& out, std::istream& in);
     Status run(const QString& line);
     // The status the driver exits with.
     static int ExitCode(Status status);
 
   private:
+    // Ends the run from inside a modal wait, through the handler that waits.
+    struct Stop {
+        Status status;
+    };
+
+    void answerModal(Form& form);
     Status fail(const QString& why);
     Status afterStep();
     Form* openForm(const QString& name, QString& why);
@@ -34,6 +42,7 @@ class Driver {
     App& app_;
     RecordingUi& ui_;
     std::ostream& out_;
+    std::istream& in_;
 };
 
 }  // namespace tavrin

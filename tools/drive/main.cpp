@@ -28,7 +28,7 @@ int main(int argc, char** argv) {
     }
     tavrin::RecordingUi ui;
     tavrin::App app(ui, *store);
-    tavrin::Driver driver(app, ui, std::cout);
+    tavrin::Driver driver(app, ui, std::cout, std::cin);
     app.splashEnabled = false;
     app.start();
     if (app.ended()) {

@@ -1,0 +1,69 @@
+#include <gtest/gtest.h>
+
+#include "geometry/polygons.h"
+#include "tests/geometry/calculated.h"
+
+// Expected figures worked in doubles apart from the code, to six places.
+namespace tavrin {
+namespace {
+
+struct SolverRow {
+    int shape, known;
+    double points, flats, flat;
+};
+
+TEST(PolygonsSolver, EachShapeFromEachSize) {
+    const SolverRow rows[] = {
+        {SquareShape, AcrossFlats, 1.414214, 1, 1},
+        {SquareShape, AcrossPoints, 1, .707107, .707107},
+        {SquareShape, SizeOfFlat, 1.414214, 1, 1},
+        {HexagonShape, AcrossFlats, 1.154701, 1, .57735},  // the flat from the tangent
+        {HexagonShape, AcrossPoints, 1, .866025, .5},
+        {HexagonShape, SizeOfFlat, 2, 1.732051, 1},
+        {OctagonShape, AcrossFlats, 1.082392, 1, .414214},
+        {OctagonShape, AcrossPoints, 1, .92388, .382683},
+        {OctagonShape, SizeOfFlat, 2.613126, 2.414214, 1},
+    };
+    for (const SolverRow& r : rows) {
+        const PolygonSizes s = SolvePolygon(r.shape, r.known, 1, 6);
+        EXPECT_EQ(s.points.value(), r.points) << r.shape << r.known;
+        EXPECT_EQ(s.flats.value(), r.flats) << r.shape << r.known;
+        EXPECT_EQ(s.flat.value(), r.flat) << r.shape << r.known;
+    }
+}
+
+TEST(Polygons, HandlerRows) {
+    const std::pair<QStringList, const char*> rows[] = {
+        {{"cboShape#1", "txtPol2=1"}, " 1.1547|1| .5774"},
+        {{"txtPol1=1"}, "1| .7071| .7071"},
+        {{"cboShape#2", "txtPol3=1"}, " 2.6131| 2.4142|1"},
+        // a square copies the typed text between flats and flat
+        {{"txtPol2=1.0"}, " 1.4142|1.0|1.0"},
+        {{"txtPol3=2x"}, " 2.8284|2x|2x"},
+        {{"cboShape#1", "txtPol1=abc"}, "abc| 0| 0"},
+        {{"txtPol1=1", "txtPol3= "}, "Please fill only one data field.1|| "},
+        {{}, "Please fill one data field.||"},
+    };
+    for (const auto& [steps, shown] : rows) {
+        EXPECT_EQ(testing::Calculated("frmPolygons", steps, {"txtPol1", "txtPol2", "txtPol3"}),
+                  shown)
+            << steps.join(' ');
+    }
+}
+
+TEST(Polygons, TheChosenShapeAloneIsDrawn) {
+    testing::Harness h;
+    Form& f = h.run("frmPolygons", {});
+    auto drawn = [&f] {
+        return QString("%1%2%3")
+            .arg(f.control("imgSquare").visible)
+            .arg(f.control("imgHex").visible)
+            .arg(f.control("imgOct").visible);
+    };
+    EXPECT_EQ(drawn(), "100");
+    h.run("frmPolygons", {"cboShape#1"});
+    EXPECT_EQ(drawn(), "010");
+}
+
+}  // namespace
+}  // namespace tavrin
