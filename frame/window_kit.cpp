@@ -17,7 +17,8 @@ const QStringList& NotYetBuilt() {
         QString(
             "frmCircleData frmCirDivided frmCircSegments frmPolygons frmDistTwoPoints "
             "frmMidTwoPoints frmArcCenter frmIntersect frmInclineOfLine frmPolar frmRotate "
-            "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
+            "frmradpRadrad frmARA frmAra2 frmRadAng frmRadToRad frmTipLoss frmTwoAngle "
+            "frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
             "frmSinePlate frmTruePos frmPinInaDiamond "
             "frmGrid frmLatheDrill frmLatheThread")
             .split(u' ');
