@@ -17,7 +17,7 @@ const QStringList& NotYetBuilt() {
         QString(
             "frmCircleData frmCirDivided frmCircSegments frmPolygons frmDistTwoPoints "
             "frmMidTwoPoints frmArcCenter frmIntersect frmInclineOfLine frmPolar frmRotate "
-            "frmradpRadrad frmAra2 "
+            "frmradpRadrad "
             "frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
             "frmSinePlate frmTruePos frmPinInaDiamond "
             "frmGrid frmLatheDrill frmLatheThread")
