@@ -17,7 +17,6 @@ const QStringList& NotYetBuilt() {
         QString(
             "frmCircleData frmCirDivided frmCircSegments frmPolygons frmDistTwoPoints "
             "frmMidTwoPoints frmArcCenter frmIntersect frmInclineOfLine frmPolar frmRotate "
-            "frmradpRadrad "
             "frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
             "frmSinePlate frmTruePos frmPinInaDiamond "
             "frmGrid frmLatheDrill frmLatheThread")

@@ -17,5 +17,16 @@ TEST(Tangency, TheFlagOutlivesTheHubUntilTheBoxIsClickedTwice) {
     EXPECT_FALSE(h.app.tangencyDms);
 }
 
+TEST(Tangency, EachItemOpensItsSolver) {
+    const char* const solvers[] = {"frmradpRadrad", "frmARA",     "frmAra2",    "frmRadAng",
+                                   "frmRadToRad",   "frmTipLoss", "frmTwoAngle"};
+    for (int i = 0; i < 7; ++i) {
+        testing::Harness h;
+        h.run("frmTangency", {"lstTpoints#" + QString::number(i)});
+        EXPECT_NE(h.app.find(solvers[i]), nullptr) << i;
+        EXPECT_EQ(h.app.loadedForms().size(), 3u) << i;  // the home window, the hub, one solver
+    }
+}
+
 }  // namespace
 }  // namespace tavrin
