@@ -15,7 +15,7 @@ QString DmsExample() {
 const QStringList& NotYetBuilt() {
     static const QStringList names =
         QString(
-            "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
+            "frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
             "frmSinePlate frmTruePos frmPinInaDiamond")
             .split(u' ', Qt::SkipEmptyParts);
     return names;
