@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QTime>
+#include <QTimer>
 #include <cstdlib>
 
 #include "app/display_text.h"
@@ -97,6 +98,14 @@ void QtUi::fatal(const QString& title, const QString& text) {
 
 void QtUi::processEvents() {
     QCoreApplication::processEvents(QEventLoop::AllEvents);
+}
+
+void QtUi::waitForEvents() {
+    // The timer is the event that ends the wait when nothing else comes.
+    QTimer tick;
+    tick.setSingleShot(true);
+    tick.start(10);
+    QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
 }
 
 bool QtUi::startProgram(const QString& program) {

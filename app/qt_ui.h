@@ -28,6 +28,7 @@ class QtUi : public Ui {
     // Shows the box, then ends the process at once: no closing step runs.
     void fatal(const QString& title, const QString& text) override;
     void processEvents() override;
+    void waitForEvents() override;
     bool startProgram(const QString& program) override;
     float secondsSinceMidnight() override;
     void quit() override;

@@ -99,7 +99,7 @@ void App::closeAllWindows(const QString& exceptName) {
 void App::waitSeconds(float& seconds) {
     const float start = ui_.secondsSinceMidnight();
     while (ui_.secondsSinceMidnight() < start + seconds && !ended_) {
-        ui_.processEvents();
+        ui_.waitForEvents();
     }
 }
 

@@ -29,6 +29,9 @@ class Ui {
     // go on (a test) returns, and the logic runs nothing more.
     virtual void fatal(const QString& title, const QString& text) = 0;
     virtual void processEvents() = 0;
+    // As processEvents, but waits up to 10 ms for something to happen, so
+    // that a wait on the clock does not spin.
+    virtual void waitForEvents() { processEvents(); }
     // Starts a program by name, without waiting; false when it cannot be started.
     virtual bool startProgram(const QString& program) = 0;
     // The clock: seconds since midnight, as a 32-bit float.
