@@ -41,8 +41,10 @@ void EnterPoints(Form& f) {
     const Real yo = ValOf(f.text("txtYNewOrigin"));
     app.oldPointsText.clear();
     const Real count = ValOf(f.text("cboPoints"));
+    // The two lists are sized by the count: one beyond 32 bits cannot be.
+    ToInt32(count);
     std::vector<RotatedPoint> points;
-    for (int i = 1; i <= count; ++i) {
+    for (double i = 1; i <= count; ++i) {
         Form& entry = app.load("frmPointsRotate");
         entry.setCaption("lblPointNum", "Point #" + NumToStr(i));
         entry.setCaption("lblX", "X" + NumToStr(i));
