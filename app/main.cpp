@@ -1,6 +1,7 @@
 // Tavrin: the desktop program.
 
 #include <QApplication>
+#include <QIcon>
 #include <QTextStream>
 #include <cstdio>
 #include <cstdlib>
@@ -47,6 +48,9 @@ int main(int argc, char** argv) {
         return 1;
     }
     QApplication::setQuitOnLastWindowClosed(false);  // the logic decides when the program ends
+    // The title bars and the task bar show the icon; the desktop entry is matched by name.
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/tavrin.svg")));
+    QApplication::setDesktopFileName(QStringLiteral("tavrin"));
 
     tavrin::IniSettings settings(settingsPath);
     tavrin::QtUi ui;
