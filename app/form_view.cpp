@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QStyle>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -214,7 +215,11 @@ QWidget* FormView::createTextBox(const Control& c, QWidget* parent) {
                                                               : QPlainTextEdit::WidgetWidth);
         const int lines = c.heightLines > 0 ? c.heightLines : 4;
         box->setFixedHeight(box->fontMetrics().lineSpacing() * lines + 12);
-        box->setFixedWidth(CharsWide(box, c.widthChars > 0 ? c.widthChars : 40));
+        // The characters asked for stand beside the scroll bar, not under it.
+        const int bar = c.scrollBars == ScrollBars::None
+                            ? 0
+                            : box->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        box->setFixedWidth(CharsWide(box, c.widthChars > 0 ? c.widthChars : 40) + bar);
         connect(box, &QPlainTextEdit::textChanged, this, [this, box, name = c.name] {
             if (!syncing_ && form_ != nullptr) {
                 app_.userType(*form_, name, FromDisplay(box->toPlainText()));
