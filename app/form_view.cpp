@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QFontDatabase>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QStyle>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -197,7 +199,13 @@ QWidget* FormView::createBareWidget(const Control& c, QWidget* parent) {
 QWidget* FormView::createTextBox(const Control& c, QWidget* parent) {
     if (c.multiLine) {
         auto* box = new QPlainTextEdit(parent);
+        // Columns of figures and G-code line up in a fixed-width font.
+        box->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
         box->setReadOnly(c.locked);
+        if (c.locked) {
+            // Read-only, yet the keyboard moves, selects and copies as in any text box.
+            box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        }
         box->setTabChangesFocus(true);
         box->setVerticalScrollBarPolicy(c.scrollBars == ScrollBars::None ? Qt::ScrollBarAlwaysOff
                                                                          : Qt::ScrollBarAlwaysOn);
@@ -207,7 +215,11 @@ QWidget* FormView::createTextBox(const Control& c, QWidget* parent) {
                                                               : QPlainTextEdit::WidgetWidth);
         const int lines = c.heightLines > 0 ? c.heightLines : 4;
         box->setFixedHeight(box->fontMetrics().lineSpacing() * lines + 12);
-        box->setFixedWidth(CharsWide(box, c.widthChars > 0 ? c.widthChars : 40));
+        // The characters asked for stand beside the scroll bar, not under it.
+        const int bar = c.scrollBars == ScrollBars::None
+                            ? 0
+                            : box->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        box->setFixedWidth(CharsWide(box, c.widthChars > 0 ? c.widthChars : 40) + bar);
         connect(box, &QPlainTextEdit::textChanged, this, [this, box, name = c.name] {
             if (!syncing_ && form_ != nullptr) {
                 app_.userType(*form_, name, FromDisplay(box->toPlainText()));
@@ -314,15 +326,20 @@ void FormView::buildMenus() {
 }
 
 void FormView::buildRows() {
+    // The window's size is set by fitSize, which never lets it shrink: rows
+    // stand from the top, and what is hidden leaves room below.
     auto* outer = new QHBoxLayout(this);
-    outer->setSizeConstraint(QLayout::SetFixedSize);
+    outer->setSizeConstraint(QLayout::SetNoConstraint);
     if (menuBar_ != nullptr) {
         outer->setMenuBar(menuBar_);
     }
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(10);
     grid->setVerticalSpacing(6);
-    outer->addLayout(grid);
+    auto* column = new QVBoxLayout;
+    column->addLayout(grid);
+    column->addStretch();
+    outer->addLayout(column);
     int columns = 2;
     for (const Row& row : form_->rows()) {
         if (row.kind == RowKind::Fields) {
@@ -335,10 +352,23 @@ void FormView::buildRows() {
             case RowKind::Fields:
                 for (int i = 0; i < row.names.size(); ++i) {
                     QWidget* w = widgets_.value(row.names[i]);
-                    const bool caption = i % 2 == 0;
-                    grid->addWidget(w, r, i,
-                                    caption ? Qt::AlignLeft | Qt::AlignVCenter
-                                            : Qt::AlignLeft | Qt::AlignVCenter);
+                    const QString next = i + 1 < row.names.size() ? row.names[i + 1] : QString();
+                    if (!next.isEmpty() && form_->control(next).kind == ControlKind::Spin &&
+                        form_->control(next).buddy == row.names[i]) {
+                        // The arrows stand against their box, as tall as it.
+                        QWidget* spin = widgets_.value(next);
+                        for (QToolButton* arrow : spin->findChildren<QToolButton*>()) {
+                            arrow->setFixedHeight(w->sizeHint().height() / 2);
+                        }
+                        auto* pair = new QHBoxLayout;
+                        pair->setSpacing(0);
+                        pair->addWidget(w);
+                        pair->addWidget(spin);
+                        grid->addLayout(pair, r, i, Qt::AlignLeft | Qt::AlignVCenter);
+                        ++i;
+                        continue;
+                    }
+                    grid->addWidget(w, r, i, Qt::AlignLeft | Qt::AlignVCenter);
                 }
                 break;
             case RowKind::Line: {
@@ -438,12 +468,55 @@ void FormView::startTimers() {
     }
 }
 
+void FormView::fitSize() {
+    // Entry and answer layouts come and go on one window: it grows to hold
+    // each, and never shrinks back, so that it does not jump as they change.
+    kept_ = kept_.expandedTo(layout()->totalSizeHint());
+    if (size() != kept_ || minimumSize() != kept_ || maximumSize() != kept_) {
+        setFixedSize(kept_);
+    }
+}
+
+bool FormView::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest && form_ != nullptr) {
+        fitSize();
+    }
+    return handled;
+}
+
+void FormView::keepOnScreen() {
+    // Moved just enough to stand wholly on the screen (at 200% the default
+    // place puts the buttons below it); the place it then has is the one stored.
+    const QScreen* screen = this->screen();
+    QRect placed = frameGeometry();
+    if (screen == nullptr || screen->availableGeometry().contains(placed)) {
+        return;
+    }
+    const QRect area = screen->availableGeometry();
+    placed.moveRight(std::min(placed.right(), area.right()));
+    placed.moveBottom(std::min(placed.bottom(), area.bottom()));
+    placed.moveLeft(std::max(placed.left(), area.left()));
+    placed.moveTop(std::max(placed.top(), area.top()));
+    move(placed.topLeft());
+    form_->setPosition(placed.x() * 1440.0 / logicalDpiX(), placed.y() * 1440.0 / logicalDpiY());
+}
+
+void FormView::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    // The frame is known only once the window is shown.
+    if (form_ != nullptr && form_->style() == FormStyle::Home) {
+        keepOnScreen();
+    }
+}
+
 void FormView::place() {
-    adjustSize();
+    fitSize();
     QScreen* screen = this->screen();
     if (form_->style() == FormStyle::Home) {
         move(qRound(form_->left() * logicalDpiX() / 1440.0),
              qRound(form_->top() * logicalDpiY() / 1440.0));
+        keepOnScreen();
         return;
     }
     if (screen != nullptr) {

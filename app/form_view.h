@@ -31,7 +31,9 @@ class FormView : public QWidget, public FormObserver {
     void focusMoved(const Control& control) override;
 
   protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -44,7 +46,9 @@ class FormView : public QWidget, public FormObserver {
     void buildRows();
     void setTabOrder();
     void startTimers();
+    void fitSize();
     void place();
+    void keepOnScreen();
     void sync(const Control& c);
 
     App& app_;
@@ -52,6 +56,7 @@ class FormView : public QWidget, public FormObserver {
     QHash<QString, QWidget*> widgets_;
     QHash<QString, QAction*> actions_;
     QMenuBar* menuBar_ = nullptr;
+    QSize kept_;  // the largest size the window's layouts have needed
     bool syncing_ = false;
     bool listJustChanged_ = false;
     bool listInput_ = false;  // a key or mouse press on a list is being handled
