@@ -89,7 +89,7 @@ TEST(ToolRadius, CalculateRows) {
         {{"chkDMStrc", "txtTrc2=30.3"}, "|***Lathe***\r\nX=  .0428\r\nZ=  .0727\r\n"},  // 30.5
         {{"txtTrc1="}, "Error, Please fill both data fields.|earlier"},
         {{"txtTrc2="}, "Error, Please fill both data fields.|earlier"},
-        {{"txtTrc1=-.1"}, "Error, Values must be greater than zero.|earlier"},
+        {{"txtTrc1=0"}, "Error, Values must be greater than zero.|earlier"},
         {{"txtTrc2=0"}, "Error, Values must be greater than zero.|earlier"},
     };
     for (const auto& [steps, answer] : rows) {
@@ -120,6 +120,9 @@ TEST(ArcCenter, CalculateRows) {
          "I=  .195 J=  .245\r\nI=  .005 J=  .005"},  // equal passes
         {{"txtXik=.26"}, "Error, Distance values cannot be greater than radius.|earlier"},
         {{"txtZik=.26"}, "Error, Distance values cannot be greater than radius.|earlier"},
+        {{"txtZik=.25"},
+         "|Use of the following pairs depending on G02 or G03\r\nI=  .2456 K=  .3956\r\n"
+         "I=  .1456 K=  .1456"},
         {{"txtZik=0"}, "Run-time error '11':\r\n\r\nDivision by zero|Calculating..."},
         {{"txtZik=", "txtXik="}, "Run-time error '6':\r\n\r\nOverflow|Calculating..."},
         {{"txtXik=-1"},  // a radius too small for the distances
@@ -137,6 +140,12 @@ TEST(ArcCenter, CalculateRows) {
     EXPECT_EQ(f.caption("Label2696") + f.caption("Label2697"), "Y DistanceX Distance");
     h.run("frmIK", {"optLatheIK"});
     EXPECT_EQ(f.caption("Label2696") + f.caption("Label2697"), "X DistanceZ Distance");
+}
+
+TEST(CuttingWindows, ClearAllEmptiesEveryBox) {
+    for (const char* window : {"frmIpmIpr", "frmCusp", "frmTRC", "frmIK"}) {
+        testing::ExpectClearAllEmptiesEveryBox(window);
+    }
 }
 
 }  // namespace

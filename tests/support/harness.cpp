@@ -1,5 +1,7 @@
 #include "tests/support/harness.h"
 
+#include <gtest/gtest.h>
+
 #include "frame/form.h"
 
 namespace tavrin::testing {
@@ -40,6 +42,22 @@ Form& Harness::run(const QString& name, const QStringList& steps) {
 
 QString Harness::lastBox() const {
     return ui.shown.empty() ? QString() : ui.shown.back().text;
+}
+
+void ExpectClearAllEmptiesEveryBox(const QString& window) {
+    Harness h;
+    Form& f = h.open(window);
+    QStringList boxes;
+    for (const auto& c : f.controls()) {
+        if (c->kind == ControlKind::TextBox) {
+            boxes << c->name;
+            h.set(f, c->name, "1");
+        }
+    }
+    h.click(f, "Command2");
+    for (const QString& name : boxes) {
+        EXPECT_EQ(f.text(name), "") << window << "." << name;
+    }
 }
 
 }  // namespace tavrin::testing

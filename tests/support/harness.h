@@ -30,4 +30,8 @@ struct Harness {
     QString lastBox() const;
 };
 
+// Types into every text box of the window, presses Clear All (Command2) and
+// expects every one of them empty again.
+void ExpectClearAllEmptiesEveryBox(const QString& window);
+
 }  // namespace tavrin::testing

@@ -53,5 +53,10 @@ TEST(Countersink, CalculateRows) {
     }
 }
 
+TEST(DrillPoint, ClearAllEmptiesEveryBox) {
+    testing::ExpectClearAllEmptiesEveryBox("frmDrillTip");
+    testing::ExpectClearAllEmptiesEveryBox("frmCounterSink");
+}
+
 }  // namespace
 }  // namespace tavrin
