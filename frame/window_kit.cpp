@@ -18,7 +18,7 @@ const QStringList& NotYetBuilt() {
             "form1 frmCircleData frmCirDivided frmCircSegments frmPolygons frmDistTwoPoints "
             "frmMidTwoPoints frmArcCenter frmIntersect frmInclineOfLine frmPolar frmRotate "
             "frmTangency frmBallSub frmBallToBall frmFaceToBall frmTapers frmRoll "
-            "frmPinInaDiamond frmTap frmDrillTip frmCounterSink "
+            "frmTap frmDrillTip frmCounterSink "
             "frmIpmIpr frmCusp frmTRC frmIK frmGrid frmLatheDrill frmLatheThread")
             .split(u' ');
     return names;
