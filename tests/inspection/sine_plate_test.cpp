@@ -17,7 +17,8 @@ TEST(SinePlateSolver, Rows) {
               "Incline of Angle DD=  27.387108\r\nIncline of Angle DMS= 27°  23'  14\"");
     EXPECT_EQ(*SinePlateAnswer(true, 5, 2.5, 1),
               "Incline of Angle DD=  30\r\n"
-              "Incline of Angle DMS=  30°  0'  0\"");         // no point: untrimmed
+              "Incline of Angle DMS=  30°  0'  0\"");  // no point: untrimmed
+    EXPECT_TRUE(SinePlateAnswer(true, 5, 2.978, 4)->endsWith("36°  33'  20\""));  // from 6 places
     EXPECT_EQ(SinePlateAnswer(true, 5, 5, 4), std::nullopt);  // the pole of the arc sine
     EXPECT_TRUE(SinePlateAnswer(true, 5, 4.999999, 4).has_value());
 }
@@ -30,7 +31,9 @@ TEST(SinePlate, CalculateRows) {
         {{"AngleIncline=5", "optHeight"}, "Error, Sine Bar equal or shorter than Height.|"},
         {{"AngleIncline=0"}, QString(fill) + "|earlier"},
         {{"AngleIncline=-1"}, QString(fill) + "|earlier"},
-        {{"AngleIncline=1", "SinePlateLength=-5"}, QString(fill) + "|earlier"},
+        {{"AngleIncline=1", "SinePlateLength=0"}, QString(fill) + "|earlier"},
+        {{"AngleIncline=.5", "SinePlateLength=.5"}, "|Gage Block Height=  .0044"},
+        {{"AngleIncline=1E308"}, "Run-time error '6':\r\n\r\nOverflow|Calculating..."},
     };
     for (const auto& [steps, answer] : rows) {
         Harness h;
