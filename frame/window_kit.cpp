@@ -17,7 +17,7 @@ const QStringList& NotYetBuilt() {
         QString(
             "form1 frmCircleData frmCirDivided frmCircSegments frmPolygons frmDistTwoPoints "
             "frmMidTwoPoints frmArcCenter frmIntersect frmInclineOfLine frmPolar frmRotate "
-            "frmTangency frmRoll "
+            "frmTangency "
             "frmTap frmDrillTip frmCounterSink "
             "frmIpmIpr frmCusp frmTRC frmIK frmGrid frmLatheDrill frmLatheThread")
             .split(u' ');
