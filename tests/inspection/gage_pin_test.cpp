@@ -32,7 +32,9 @@ TEST(GagePin, CalculateRows) {
         EXPECT_EQ(h.lastBox() + '|' + f.text("txtDiamondAns"), answer) << steps.join(' ');
     }
     Harness h;
-    Form& f = h.run("frmPinInaDiamond", {"txtDiamond1=1", "txtDiamond2=1", "Command1", "Command2"});
+    Form& f = h.run("frmPinInaDiamond",
+                    {"txtDiamond1=1", "txtDiamond2=1", "Command1", "Command2", "Command3"});
+    EXPECT_NE(h.app.find("frmPinView"), nullptr);
     EXPECT_EQ(f.text("txtDiamond1") + f.text("txtDiamond2") + f.text("txtDiamondAns"), "");
 }
 

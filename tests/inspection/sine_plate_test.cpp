@@ -50,7 +50,8 @@ TEST(SinePlate, CaptionsHintAndClearAll) {
                                      "SinePlateLength=2", "GageBlock=x"});
     EXPECT_EQ(f.caption("txtHelpAng") + "|" + f.caption("txtSPtype"),
               QStringLiteral("enter 22° 3' 22\" as 22.0322|Gage Block Height"));
-    h.run("frmSinePlate", {"chkDMSsine", "optAngle", "Command2"});
+    h.run("frmSinePlate", {"chkDMSsine", "optAngle", "Command2", "Command3"});
+    EXPECT_NE(h.app.find("frmSinePlateView"), nullptr);
     EXPECT_EQ(f.caption("txtHelpAng") + "|" + f.caption("txtSPtype"), "|Angle's Incline");
     EXPECT_EQ(f.text("SinePlateLength") + f.text("AngleIncline") + f.text("GageBlock"), "");
 }

@@ -101,7 +101,8 @@ TEST(Tapers, CasesRememberWhatTheyDoNotSet) {
     h.run("frmTapers",
           {"txt1=.7083", "txt2=.625", "txt3=4", "optTaperDMS", "optTaperDD", "Command1"});
     EXPECT_TRUE(f.text("txtTaperAns").startsWith("Small End=  .5\r\n"));
-    h.run("frmTapers", {"Command2"});
+    h.run("frmTapers", {"Command2", "Command3"});
+    EXPECT_NE(h.app.find("frmtapersView"), nullptr);
     EXPECT_EQ(h.ui.messageTexts(), QStringList{QStringLiteral("enter 22° 3' 22\" as 22.0322")});
     EXPECT_EQ(f.text("txt1") + f.text("txt2") + f.text("txt3") + f.text("txtTaperAns"), "");
     EXPECT_EQ(f.listIndex("popTaper"), 1);
