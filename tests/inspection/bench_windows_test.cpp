@@ -87,7 +87,6 @@ TEST(BenchSolvers, TwoBallsTapersDoveTails) {
     }
 }
 
-// A window, its answer box and the fields a row starts from.
 struct Window {
     const char* form;
     const char* answer;
@@ -134,6 +133,7 @@ TEST(BenchWindows, CalculateRows) {
         {kPin, {"dec=3"}, "|Gage Pin Diameter=  .707$"},
         {kPin, {"txtDiamond2="}, both + "$"},
         {kPin, {"txtDiamond1=x"}, both + "$"},
+        {kPin, {"txtDiamond1=1E300", "txtDiamond2=1E-300"}, divide},  // an angle of 0
         {kSub,
          {"txtAngBall=30.3", "chkDMSbs"},
          "|Plus/Minus Value=  .3713\r\nNew Distance= -.0713$"},
@@ -282,8 +282,8 @@ TEST(DoveHelp, ReadsThePicturesFromTheProgramsFolder) {
     const char* const files[] = {"sc_or.bmp", "id over rolls.bmp", "angle_plane.bmp",
                                  "angle_planeID.bmp", "riser.bmp"};
     Form& help = h.open("frmDoveHelp");
-    for (int i : {0, 4, 3, 2, 1}) {
-        h.run("frmDoveHelp", {"popDps#" + QString::number(i)});
+    for (int i : {0, 4, 3, 2, 1}) {  // the first on opening
+        h.run("frmDoveHelp", i == 0 ? QStringList() : QStringList{"popDps#" + QString::number(i)});
         EXPECT_EQ(help.control("Image1").picture, h.app.programFolder + "/" + files[i]);
     }
     QTemporaryDir dir;
