@@ -48,7 +48,6 @@ TEST(BenchSolvers, TwoBallsTapersDoveTails) {
               "Angle per Side DD=  45.584691\r\nAngle per Side DMS= 45°  35'  5\"\r\n"
               "Sharp Corner Dia.=  .8165\r\nIncluded Angle DD=  91.169383\r\n"
               "Included Angle DMS= 91°  10'  10\"");
-    EXPECT_TRUE(BallToBallAnswer(.25, .5, -1).startsWith("DD= -6.37937\r\n"));
     EXPECT_TRUE(BallToBallAnswer(.5, .5, 1).startsWith("DD=  0\r\nDMS=  0°"));  // equal balls
     EXPECT_EQ(BallToBallAnswer(.25, .75, .2), "Invalid Input");                 // below -1
     EXPECT_TRUE(FaceToBallAnswer(.25, .5, .25, .2).startsWith("Angle per Side DD= -45.584691"));
@@ -143,6 +142,7 @@ TEST(BenchWindows, CalculateRows) {
          {"txtDistance=.3x", "txtSmBall=0"},
          "Error, Invalid input in data field #4|earlier$"},
         {kSub, {"txtAngBall=0"}, zero},
+        {kSub, {"txtAngBall=1E308"}, overflow},
         {kTaper, {}, "|Large End=  .7083\r\n"},
         {kTaper, {"txt3="}, zero},
         {kTaper, {"txt1=0", "txt3=1E400"}, "Run-time error '6'"},  // every field is read
