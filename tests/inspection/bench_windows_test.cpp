@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -46,8 +45,7 @@ TEST(BenchSolvers, TwoBallsTapersDoveTails) {
               "Angle per Side DD=  45.584691\r\nAngle per Side DMS= 45°  35'  5\"\r\n"
               "Sharp Corner Dia.=  .8165\r\nIncluded Angle DD=  91.169383\r\n"
               "Included Angle DMS= 91°  10'  10\"");
-    EXPECT_TRUE(BallToBallAnswer(.5, .5, 1).startsWith("DD=  0\r\nDMS=  0°"));  // equal balls
-    EXPECT_EQ(BallToBallAnswer(.25, .75, .2), "Invalid Input");                 // below -1
+    EXPECT_EQ(BallToBallAnswer(.25, .75, .2), "Invalid Input");  // below -1
     EXPECT_EQ(TaperAnswer(0, .5, .625, 4, 4),
               "Large End=  .7083\r\nIncluded Angle DMS= 2°  59'  1\"\r\nAngle per Side DMS= 1°  "
               "29'  30\"\r\nIncluded Angle DD=  2.98348\r\nAngle per Side DD=  1.49174");
@@ -159,7 +157,11 @@ TEST(BenchWindows, CalculateRows) {
         {kB2B, {"txtSB2=.5", "txtSizeBetween=.5"}, "Error, Invalid Input.|earlier$"},
         {kB2B, {"txtSB2=.6", "txtSizeBetween=0"}, larger},
         {kB2B, {"txtSizeBetween="}, zero},
-        {kB2B, {"txtSizeBetween=.125"}, divide},  // v of 0
+        {kB2B, {"txtSB2=0"}, zero},
+        {kB2B, {"txtSB2=-1", "txtLB2=0"}, zero},
+        {kB2B, {"txtLB2=.25"}, "|DD=  0\r\nDMS=  0°"},  // equal balls
+        {kB2B, {"txtSizeBetween=1E-20"}, divide},       // too small to count: -1 meets the pole
+        {kB2B, {"txtSizeBetween=.125"}, divide},        // v of 0
         {kF2B, {"txtSBpos=.1"}, "|Invalid Input$"},
         {kF2B, {"txtSB=.6", "txtSBpos=0"}, larger},
         {kF2B, {"txtLBpos="}, zero},
@@ -287,13 +289,11 @@ TEST(DoveHelp, ReadsThePicturesFromTheProgramsFolder) {
         EXPECT_EQ(help.control("Image1").picture, h.app.programFolder + "/" + files[i]);
     }
     QTemporaryDir dir;
-    for (const QString& name : QDir(h.app.programFolder).entryList({"*.bmp"})) {
-        ASSERT_TRUE(QFile::copy(h.app.programFolder + "/" + name, dir.filePath(name)));
-    }
-    ASSERT_TRUE(QFile::rename(dir.filePath("sc_or.bmp"), dir.filePath("sc_or.bak")));
+    const QString folder = h.app.programFolder + "/";
+    ASSERT_TRUE(QFile::copy(folder + "sc_or.bmp", dir.filePath("sc_or.bak")));  // renamed
+    ASSERT_TRUE(QFile::copy(folder + "angle_plane.bmp", dir.filePath("angle_plane.bmp")));
     QFile broken(dir.filePath("riser.bmp"));
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write("PNG") == 3);
-    broken.close();
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && broken.write("PNG"));
     h.app.programFolder = dir.path();
     h.run("frmDoveHelp", {"popDps#0"});
     EXPECT_EQ(h.lastBox(), "Error, Missing the picture file or the name of it was changed!");
