@@ -152,7 +152,8 @@ TEST(BenchWindows, CalculateRows) {
          {"popTaper#6", "optTaperDMS", "txt1=1.4724"},
          "enter 22° 3' 22\" as 22.0322|Taper per Foot=  .75$"},
         {kTaper, {"popTaper#6", "txt1=0"}, zero},
-        {kTaper, {"popTaper=Small End"}, "|earlier$"},  // a typed case is no case
+        {kTaper, {"popTaper#6", "txt1=1E308", "txt2="}, overflow},  // one field only
+        {kTaper, {"popTaper=Small End"}, "|earlier$"},              // a typed case is no case
         {kB2B, {"txtSizeBetween=.1"}, "|Invalid Input$"},
         {kB2B, {"txtSB2=.5", "txtSizeBetween=.5"}, "Error, Invalid Input.|earlier$"},
         {kB2B, {"txtSB2=.6", "txtSizeBetween=0"}, larger},
@@ -205,7 +206,6 @@ TEST(BenchWindows, CalculateRows) {
     }
 }
 
-// Clear All empties every box; Image and Help.
 TEST(BenchWindows, ClearAllImageAndHelp) {
     const std::tuple<const Window&, QStringList, const char*> rows[] = {
         {kSine, {"Command3"}, "frmSinePlateView"},
