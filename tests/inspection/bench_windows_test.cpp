@@ -1,5 +1,4 @@
-// The inspection bench windows. Expected figures are worked in doubles, step by
-// step, apart from the code.
+// The inspection bench windows; figures worked in doubles apart from the code.
 
 #include <gtest/gtest.h>
 
@@ -45,7 +44,7 @@ TEST(BenchSolvers, TwoBallsTapersDoveTails) {
               "Angle per Side DD=  45.584691\r\nAngle per Side DMS= 45°  35'  5\"\r\n"
               "Sharp Corner Dia.=  .8165\r\nIncluded Angle DD=  91.169383\r\n"
               "Included Angle DMS= 91°  10'  10\"");
-    EXPECT_EQ(BallToBallAnswer(.25, .75, .2), "Invalid Input");  // below -1
+    EXPECT_EQ(BallToBallAnswer(.25, .75, .1), "Invalid Input");  // below -1
     EXPECT_EQ(TaperAnswer(0, .5, .625, 4, 4),
               "Large End=  .7083\r\nIncluded Angle DMS= 2°  59'  1\"\r\nAngle per Side DMS= 1°  "
               "29'  30\"\r\nIncluded Angle DD=  2.98348\r\nAngle per Side DD=  1.49174");
@@ -154,7 +153,8 @@ TEST(BenchWindows, CalculateRows) {
         {kTaper, {"popTaper#6", "txt1=0"}, zero},
         {kTaper, {"popTaper#6", "txt1=1E308", "txt2="}, overflow},  // one field only
         {kTaper, {"popTaper=Small End"}, "|earlier$"},              // a typed case is no case
-        {kB2B, {"txtSizeBetween=.1"}, "|Invalid Input$"},
+        {kB2B, {"txtSizeBetween=.2"}, "|Invalid Input$"},
+        {kB2B, {"txtSizeBetween=.25"}, divide},  // 1 meets the pole
         {kB2B, {"txtSB2=.5", "txtSizeBetween=.5"}, "Error, Invalid Input.|earlier$"},
         {kB2B, {"txtSB2=.6", "txtSizeBetween=0"}, larger},
         {kB2B, {"txtSizeBetween="}, zero},
@@ -167,6 +167,7 @@ TEST(BenchWindows, CalculateRows) {
         {kF2B, {"txtSB=.6", "txtSBpos=0"}, larger},
         {kF2B, {"txtLBpos="}, zero},
         {kF2B, {"txtSB=0"}, zero},
+        {kF2B, {"txtSBpos=0"}, zero},
         {kF2B, {"txtSB=-1", "txtLB=0"}, zero},
         {kF2B, {"txtLB=.25"}, "|Angle per Side DD=  0\r\n"},             // equal balls
         {kF2B, {"txtSBpos=.25"}, "|Angle per Side DD= -45.584691\r\n"},  // one position alone
@@ -181,7 +182,6 @@ TEST(BenchWindows, CalculateRows) {
         {kDove, {"chkDoveID"}, "|Size Over Rolls=  1.317$"},
         {kDove, {"chkNotConical"}, "|Size Over Rolls=  2.3415$"},
         {kDove, {"txtAngleRoll=30.3", "chkDMSdove"}, "|Size Over Rolls=  2.6874$"},
-        {kDove, {"txtRiserRoll=-.1"}, "|Size Over Rolls=  2.5675$"},
         {kDove, {"txtRiserRoll="}, fillDove},
         {kDove, {"txtSizeRoll=0"}, fillDove},
         {kDove, {"txtAngleRoll="}, fillDove},
