@@ -1,6 +1,7 @@
 #include "app/pictures.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -18,11 +19,22 @@ QString PngPath(const QString& name) {
 
 }  // namespace
 
+// A full path names a picture file the logic has found, such as the dove
+// tail bitmaps beside the program.
 bool PictureExists(const QString& name) {
+    if (QFileInfo(name).isAbsolute()) {
+        return QFile::exists(name);
+    }
     return QFile::exists(SvgPath(name)) || QFile::exists(PngPath(name));
 }
 
 QPixmap LoadPicture(const QString& name) {
+    if (name.isEmpty()) {
+        return QPixmap();  // an image emptied on purpose
+    }
+    if (QFileInfo(name).isAbsolute()) {
+        return QPixmap(name);
+    }
     if (QFile::exists(SvgPath(name))) {
         QSvgRenderer renderer(SvgPath(name));
         QPixmap pixmap(renderer.defaultSize());

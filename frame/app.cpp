@@ -1,5 +1,7 @@
 #include "frame/app.h"
 
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <algorithm>
 #include <stdexcept>
 
@@ -7,7 +9,12 @@
 
 namespace tavrin {
 
-App::App(Ui& ui, SettingsStore& settings) : ui_(ui), settings_(settings) {}
+App::App(Ui& ui, SettingsStore& settings) : ui_(ui), settings_(settings) {
+    // A test program may run without an application object.
+    programFolder = QCoreApplication::instance() != nullptr
+                        ? QCoreApplication::applicationDirPath()
+                        : QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath();
+}
 
 App::~App() = default;
 

@@ -30,6 +30,8 @@ class App {
     std::int16_t decPlace = 4;  // decimal places of answers
     bool tangencyDms = false;
     QString oldPointsText;
+    // The folder the program runs from: the dove tail help reads its pictures there.
+    QString programFolder;
     BlockLabels blockLabels;  // of the thread milling and lathe threading programs
     // The script driver and the tests skip the splash and its waits.
     bool splashEnabled = true;
