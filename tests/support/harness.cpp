@@ -44,6 +44,14 @@ QString Harness::lastBox() const {
     return ui.shown.empty() ? QString() : ui.shown.back().text;
 }
 
+QString Outcome(const QString& window, const QStringList& steps, const QString& shown,
+                int decPlace) {
+    Harness h;
+    h.app.decPlace = static_cast<std::int16_t>(decPlace);
+    const Form& f = h.run(window, steps);
+    return h.lastBox() + '|' + f.text(shown);
+}
+
 void ExpectClearAllEmptiesEveryBox(const QString& window) {
     Harness h;
     Form& f = h.open(window);

@@ -30,6 +30,11 @@ struct Harness {
     QString lastBox() const;
 };
 
+// On a fresh program with these places: runs the steps on the window, then
+// gives the last box shown and the text of `shown`, as "box|text".
+QString Outcome(const QString& window, const QStringList& steps, const QString& shown,
+                int decPlace = 4);
+
 // Types into every text box of the window, presses Clear All (Command2) and
 // expects every one of them empty again.
 void ExpectClearAllEmptiesEveryBox(const QString& window);

@@ -20,11 +20,11 @@ TEST(DrillTip, CalculateRows) {
         {{"txtDrillDiam=.5"}, "Error, Drill and Angle must be greater than zero.|earlier"},
     };
     for (const auto& [steps, answer] : rows) {
-        testing::Harness h;
-        h.app.decPlace = 6;
-        Form& f = h.run("frmDrillTip",
-                        QStringList{"txtDrillCompAns=earlier"} + steps + QStringList{"Command1"});
-        EXPECT_EQ(h.lastBox() + '|' + f.text("txtDrillCompAns"), answer) << steps.join(' ');
+        EXPECT_EQ(testing::Outcome("frmDrillTip",
+                                   QStringList{"txtDrillCompAns=earlier"} + steps << "Command1",
+                                   "txtDrillCompAns", 6),
+                  answer)
+            << steps.join(' ');
     }
 }
 

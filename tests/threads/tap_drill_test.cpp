@@ -30,11 +30,10 @@ TEST(TapDrill, CalculateRows) {
          "Error, Percent value must be greater than zero.|earlier"},
     };
     for (const auto& [steps, answer] : rows) {
-        testing::Harness h;
-        h.app.decPlace = 5;
-        Form& f =
-            h.run("frmTap", QStringList{"txtTapAns=earlier"} + steps + QStringList{"Command1"});
-        EXPECT_EQ(h.lastBox() + '|' + f.text("txtTapAns"), answer) << steps.join(' ');
+        EXPECT_EQ(testing::Outcome("frmTap", QStringList{"txtTapAns=earlier"} + steps << "Command1",
+                                   "txtTapAns", 5),
+                  answer)
+            << steps.join(' ');
     }
 }
 
