@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "frame/form.h"
 #include "tests/support/harness.h"
 
 // What the circle, polygon and point windows share: Clear All and Image.
@@ -10,22 +9,15 @@ namespace {
 TEST(GeometryWindows, ClearAllEmptiesEveryBox) {
     for (const char* name :
          {"frmCircleData", "frmCirDivided", "frmCircSegments", "frmPolygons", "frmDistTwoPoints",
-          "frmMidTwoPoints", "frmArcCenter", "frmIntersect", "frmInclineOfLine", "frmPolar"}) {
-        testing::Harness h;
-        Form& f = h.open(name);
-        for (const auto& c : f.controls()) {
-            if (c->kind == ControlKind::TextBox) {
-                h.set(f, c->name, "1");
-            }
-        }
-        h.click(f, "Command2");
-        QString left;
-        for (const auto& c : f.controls()) {
-            left += c->kind == ControlKind::TextBox ? c->text : QString();
-        }
-        // the present position goes back to 0, not empty
-        EXPECT_EQ(left, QString(name) == "frmPolar" ? "00" : "") << name;
+          "frmMidTwoPoints", "frmArcCenter", "frmIntersect", "frmInclineOfLine"}) {
+        testing::ExpectClearAllEmptiesEveryBox(name);
     }
+    testing::Harness h;  // the present position goes back to 0, not empty
+    Form& f = h.run("frmPolar", {"txtPolarInput1=1", "txtPolarInput2=1", "txtXPolarPresent=1",
+                                 "txtYPolarPresent=1", "txtPolarAns=1", "Command2"});
+    EXPECT_EQ(f.text("txtPolarInput1") + f.text("txtPolarInput2") + f.text("txtXPolarPresent") +
+                  f.text("txtYPolarPresent") + f.text("txtPolarAns"),
+              "00");
 }
 
 TEST(GeometryWindows, ImageShowsThePicture) {
