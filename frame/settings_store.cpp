@@ -35,8 +35,19 @@ QString IniSettings::get(const QString& section, const QString& key, const QStri
 }
 
 void IniSettings::save(const QString& section, const QString& key, const QString& value) {
-    settings_->setValue(Path(section, key), value);
+    const QString path = Path(section, key);
+    const QVariant before = settings_->value(path);
+    settings_->setValue(path, value);
     settings_->sync();
+    if (settings_->status() != QSettings::NoError) {
+        // The write did not reach the file: take the value back, so that what
+        // is read afterwards is what the file holds.
+        if (before.isValid()) {
+            settings_->setValue(path, before);
+        } else {
+            settings_->remove(path);
+        }
+    }
 }
 
 }  // namespace tavrin

@@ -182,6 +182,10 @@ TEST(Settings, AFileStoreKeepsWhatWasWrittenForTheNextRun) {
     IniSettings(dir.filePath("Tavrin.ini")).save("Reg", "DecPlace", "6");
     IniSettings again(dir.filePath("Tavrin.ini"));
     EXPECT_EQ(again.get("Reg", "DecPlace", "4") + again.get("Reg", "Other", "4"), "64");
+    // A store that cannot be written gives back its default, not the value tried.
+    IniSettings blocked(dir.path());
+    blocked.save("Quicklaunch", "2", "Sine Plate");
+    EXPECT_EQ(blocked.get("Quicklaunch", "2", "Circle Segments"), "Circle Segments");
 }
 
 TEST(Windows, TheNoticesAndTheTermsStand) {
