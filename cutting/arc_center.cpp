@@ -8,6 +8,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -46,9 +47,7 @@ void Calculate(Form& f) {
 }
 
 void ClearAll(Form& f) {
-    for (const char* name : {"txtXik", "txtZik", "txtradik", "txtansik"}) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, {"txtXik", "txtZik", "txtradik", "txtansik"});
 }
 
 void Build(Form& f) {

@@ -46,9 +46,7 @@ void ShowKnown(Form& f) {
 }
 
 void ClearAll(Form& f) {
-    for (const char* name : {"txtRadCusp", "txtStepOrCusp", "txtCuspAns"}) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, {"txtRadCusp", "txtStepOrCusp", "txtCuspAns"});
 }
 
 void Build(Form& f) {

@@ -6,6 +6,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -62,9 +63,7 @@ void Calculate(Form& f) {
 }
 
 void ClearAll(Form& f) {
-    for (const char* name : kFields) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, kFields);
     f.setText("lblAns", QString());
 }
 

@@ -44,9 +44,7 @@ void Calculate(Form& f) {
 }
 
 void ClearAll(Form& f) {
-    for (const char* name : {"txtTrc1", "txtTrc2", "Field1230"}) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, {"txtTrc1", "txtTrc2", "Field1230"});
 }
 
 void Build(Form& f) {

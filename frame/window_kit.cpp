@@ -25,6 +25,12 @@ void ShowIfBuilt(App& app, const QString& name) {
     }
 }
 
+void EmptyTexts(Form& f, std::initializer_list<const char*> names) {
+    for (const char* name : names) {
+        f.setText(name, QString());
+    }
+}
+
 void DeclarePictureWindow(Form& f, const QString& title, const QString& picture) {
     f.setTitle(title);
     f.addImage("Image1", picture);

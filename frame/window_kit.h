@@ -3,11 +3,13 @@
 #include <QChar>
 #include <QString>
 #include <QStringList>
+#include <initializer_list>
+
+#include "frame/form.h"
 
 namespace tavrin {
 
 class App;
-class Form;
 
 // Small idioms that many windows share.
 
@@ -25,6 +27,15 @@ const QStringList& NotYetBuilt();
 // Shows a window as the home window would. A name that is neither built nor
 // on the not-yet-built list is a programming fault and throws.
 void ShowIfBuilt(App& app, const QString& name);
+
+// Empties the text of each named box: the core of every Clear All.
+template <typename Names>
+void EmptyTexts(Form& f, const Names& names) {
+    for (const auto& name : names) {
+        f.setText(name, QString());
+    }
+}
+void EmptyTexts(Form& f, std::initializer_list<const char*> names);
 
 // A picture window: one drawing fills it, under the title; it has no code of
 // its own and goes by its close box.

@@ -6,6 +6,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -57,9 +58,7 @@ void Build(Form& f) {
 
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* field : kFields) {
-            f.setText(field, QString());
-        }
+        EmptyTexts(f, kFields);
         f.setText("txtDisTwoPointsAns", QString());
     });
     f.onClick("Command3", [](Form& f) { f.app().show("frmDistancetwoPointsView"); });

@@ -429,9 +429,7 @@ void Calculate(Form& f) {
 
 void EmptyFields(Form& f) {
     for (const QStringList* fields : {&kSideFields, &kAngleFields}) {
-        for (const QString& name : *fields) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, *fields);
     }
 }
 

@@ -8,6 +8,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -123,11 +124,7 @@ void Build(Form& f) {
         }
     });
     f.onClick("Command1", Calculate);
-    f.onClick("Command2", [](Form& f) {
-        for (const char* field : kFields) {
-            f.setText(field, QString());
-        }
-    });
+    f.onClick("Command2", [](Form& f) { EmptyTexts(f, kFields); });
 }
 
 const FormRegistration registration("frmPolygons", Build);

@@ -7,6 +7,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 #include "geometry/tangency_hub.h"
 
 namespace tavrin {
@@ -60,9 +61,7 @@ void Build(Form& f) {
 
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txtA1ara", "txtA2ara", "txtRadara", "txtAnsara"}) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, {"txtA1ara", "txtA2ara", "txtRadara", "txtAnsara"});
     });
     f.onClick("Command3", [](Form& f) {
         ProgramMessage(f,

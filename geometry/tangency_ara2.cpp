@@ -7,6 +7,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 #include "geometry/tangency_hub.h"
 
 namespace tavrin {
@@ -64,10 +65,8 @@ void Build(Form& f) {
 
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txtHgt1Rar2", "txtAng1Rar2", "txtHgt2Rar2", "txtAng2Rar2",
-                                 "txtRadRar2", "txtAnsRar2"}) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, {"txtHgt1Rar2", "txtAng1Rar2", "txtHgt2Rar2", "txtAng2Rar2", "txtRadRar2",
+                       "txtAnsRar2"});
     });
 }
 

@@ -7,6 +7,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 #include "geometry/tangency_hub.h"
 
 namespace tavrin {
@@ -45,11 +46,7 @@ void Build(Form& f) {
     f.setSide("Image1");
 
     f.onClick("Command1", Calculate);
-    f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txtradar", "txtangar", "txtansar"}) {
-            f.setText(name, QString());
-        }
-    });
+    f.onClick("Command2", [](Form& f) { EmptyTexts(f, {"txtradar", "txtangar", "txtansar"}); });
 }
 
 const FormRegistration registration("frmRadAng", Build);

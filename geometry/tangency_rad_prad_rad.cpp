@@ -7,6 +7,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -73,9 +74,7 @@ void Build(Form& f) {
     f.onClick("optWidthrrr", [](Form& f) { f.setCaption("Label2558", "Width"); });
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txtRad1RR", "txtRad2RR", "txtansrrr", "txtHorWRR"}) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, {"txtRad1RR", "txtRad2RR", "txtansrrr", "txtHorWRR"});
     });
 }
 

@@ -7,6 +7,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -69,9 +70,7 @@ void Build(Form& f) {
 
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txtRR1", "txtRR2", "txtRRLength", "txtRRans"}) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, {"txtRR1", "txtRR2", "txtRRLength", "txtRRans"});
     });
 }
 

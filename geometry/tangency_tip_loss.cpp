@@ -8,6 +8,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 #include "geometry/tangency_hub.h"
 
 namespace tavrin {
@@ -58,11 +59,7 @@ void Build(Form& f) {
     f.setSide("Image1");
 
     f.onClick("Command1", Calculate);
-    f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txtradtl", "txtangtl", "txtanstl"}) {
-            f.setText(name, QString());
-        }
-    });
+    f.onClick("Command2", [](Form& f) { EmptyTexts(f, {"txtradtl", "txtangtl", "txtanstl"}); });
 }
 
 const FormRegistration registration("frmTipLoss", Build);

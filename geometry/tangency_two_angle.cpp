@@ -8,6 +8,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 #include "geometry/tangency_hub.h"
 
 namespace tavrin {
@@ -52,9 +53,7 @@ void Build(Form& f) {
 
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txtAng1op", "txtAng2op", "txtRadop", "txtansop"}) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, {"txtAng1op", "txtAng2op", "txtRadop", "txtansop"});
     });
 }
 

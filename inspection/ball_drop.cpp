@@ -333,10 +333,7 @@ void DmsClick(Form& f) {
 
 void ClearAll(Form& f) {
     // The measured drop stays on purpose.
-    for (const char* name :
-         {"txtAngDrop", "txtBallDrop", "txtDropOrDia", "txtThruHole", "txtDropAns"}) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, {"txtAngDrop", "txtBallDrop", "txtDropOrDia", "txtThruHole", "txtDropAns"});
 }
 
 void Build(Form& f) {

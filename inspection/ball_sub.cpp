@@ -81,9 +81,7 @@ void Build(Form& f) {
     f.onLoad([](Form& f) { f.setListIndex("popSub", 0); });
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* name : kFields) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, kFields);
         f.setText("txtBallSubAns", QString());
     });
     f.onClick("Command3", [](Form& f) {

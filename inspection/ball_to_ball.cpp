@@ -63,9 +63,7 @@ void Build(Form& f) {
 
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txtSB2", "txtLB2", "txtSizeBetween", "txtBBans"}) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, {"txtSB2", "txtLB2", "txtSizeBetween", "txtBBans"});
     });
     f.onClick("Command3", [](Form& f) { f.app().show("frmBallToBallHelp"); });
 }

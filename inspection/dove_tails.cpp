@@ -8,6 +8,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -95,10 +96,7 @@ void Build(Form& f) {
     });
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* name :
-             {"txtSizeRoll", "txtAngleRoll", "txtRollRoll", "txtRiserRoll", "txtRollAns"}) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, {"txtSizeRoll", "txtAngleRoll", "txtRollRoll", "txtRiserRoll", "txtRollAns"});
     });
     f.onClick("Command3", [](Form& f) { f.app().show("frmDoveHelp"); });
 }

@@ -76,9 +76,7 @@ void Build(Form& f) {
 
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txtSB", "txtLB", "txtSBpos", "txtLBpos", "txtFaceBall"}) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, {"txtSB", "txtLB", "txtSBpos", "txtLBpos", "txtFaceBall"});
     });
     f.onClick("Command3", [](Form& f) { f.app().show("frmFaceToBallHelp"); });
     f.onClick("Command4", [](Form& f) {

@@ -46,9 +46,7 @@ void Build(Form& f) {
 
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txtDiamond1", "txtDiamond2", "txtDiamondAns"}) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, {"txtDiamond1", "txtDiamond2", "txtDiamondAns"});
     });
     f.onClick("Command3", [](Form& f) { f.app().show("frmPinView"); });
 }

@@ -43,9 +43,7 @@ void Build(Form& f) {
     f.onClick("chkDMSmin", DmsHint);
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txtAngMinMax", "txtThruMinMax", "txtSCMinMax", "txtMMans"}) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, {"txtAngMinMax", "txtThruMinMax", "txtSCMinMax", "txtMMans"});
     });
 }
 

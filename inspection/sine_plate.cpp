@@ -81,9 +81,7 @@ void Build(Form& f) {
     });
     f.onClick("Command1", Calculate);
     f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"SinePlateLength", "AngleIncline", "GageBlock"}) {
-            f.setText(name, QString());
-        }
+        EmptyTexts(f, {"SinePlateLength", "AngleIncline", "GageBlock"});
     });
     f.onClick("Command3", [](Form& f) { f.app().show("frmSinePlateView"); });
 }

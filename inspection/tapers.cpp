@@ -184,11 +184,7 @@ void Build(Form& f) {
     f.onClick("popTaper", CaseChange);
     f.onClick("optTaperDMS", [](Form& f) { ProgramMessage(f, "enter " + DmsExample()); });
     f.onClick("Command1", Calculate);
-    f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txt1", "txt2", "txt3", "txtTaperAns"}) {
-            f.setText(name, QString());
-        }
-    });
+    f.onClick("Command2", [](Form& f) { EmptyTexts(f, {"txt1", "txt2", "txt3", "txtTaperAns"}); });
     f.onClick("Command3", [](Form& f) { f.app().show("frmtapersView"); });
 }
 

@@ -7,6 +7,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -35,11 +36,7 @@ void Build(Form& f) {
     f.setSide("Image1");
 
     f.onClick("Command1", Calculate);
-    f.onClick("Command2", [](Form& f) {
-        for (const char* name : {"txtXpos", "txtYpos", "txtTPosAns"}) {
-            f.setText(name, QString());
-        }
-    });
+    f.onClick("Command2", [](Form& f) { EmptyTexts(f, {"txtXpos", "txtYpos", "txtTPosAns"}); });
 }
 
 const FormRegistration registration("frmTruePos", Build);

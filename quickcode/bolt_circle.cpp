@@ -101,9 +101,7 @@ void Calculate(Form& f) {
 }
 
 void ClearAll(Form& f) {
-    for (const char* field : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text7"}) {
-        f.setText(field, QString());
-    }
+    EmptyTexts(f, {"Text1", "Text2", "Text3", "Text4", "Text5", "Text7"});
 }
 
 void Help(Form& f) {

@@ -9,6 +9,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -101,9 +102,7 @@ void Calculate(Form& f) {
 }
 
 void ClearAll(Form& f) {
-    for (const char* name : kFields) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, kFields);
     f.setText("txtGridAns", QString());
 }
 

@@ -10,6 +10,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -262,9 +263,7 @@ void DrillTypeClick(Form& f) {
 }
 
 void ClearAll(Form& f) {
-    for (const char* name : kFields) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, kFields);
     f.setText("fld_lathe_drill_ans", QString());
 }
 

@@ -10,6 +10,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 #include "quickcode/lathe_drill.h"
 
 namespace tavrin {
@@ -131,10 +132,8 @@ void Calculate(Form& f) {
 }
 
 void ClearAll(Form& f) {
-    for (const char* name : {"fldLT_Major", "fldLT_xstart", "fldLT_Ans", "fldLT_tpu",
-                             "fldLT_zstart", "fld_passes", "fldLT_zdist", "Field1222"}) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, {"fldLT_Major", "fldLT_xstart", "fldLT_Ans", "fldLT_tpu", "fldLT_zstart",
+                   "fld_passes", "fldLT_zdist", "Field1222"});
 }
 
 void Build(Form& f) {

@@ -10,6 +10,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -232,10 +233,8 @@ void Calculate(Form& f) {
 }
 
 void ClearAll(Form& f) {
-    for (const char* field : {"fld_TM_Xpos", "fld_TM_Ypos", "fld_TM_Depth", "fld_TM_ZStart",
-                              "fld_TM_Major", "fld_TM_ToolDia", "fld_TM_Pitch", "fld_TM_Feed"}) {
-        f.setText(field, QString());
-    }
+    EmptyTexts(f, {"fld_TM_Xpos", "fld_TM_Ypos", "fld_TM_Depth", "fld_TM_ZStart", "fld_TM_Major",
+                   "fld_TM_ToolDia", "fld_TM_Pitch", "fld_TM_Feed"});
     f.setText(kAnswer, QString());
 }
 

@@ -4,6 +4,7 @@
 #include "frame/app.h"
 #include "frame/form.h"
 #include "frame/form_registry.h"
+#include "frame/window_kit.h"
 #include "reference/figure_catalogue.h"
 
 namespace tavrin {
@@ -20,9 +21,7 @@ const char* const kFormulaNote =
 
 void DressSolver(Form& f) {
     Form& solver = f.app().load("form2");
-    for (const char* name : kFields) {
-        solver.setText(name, QString());
-    }
+    EmptyTexts(solver, kFields);
     solver.setText("txtAns", QString());
     const int number = f.listIndex("lstArea");
     if (number < 0) {

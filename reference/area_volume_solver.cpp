@@ -5,6 +5,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 #include "reference/figure_catalogue.h"
 #include "reference/figures.h"
 
@@ -74,9 +75,7 @@ void Calculate(Form& f) {
 }
 
 void ClearAll(Form& f) {
-    for (const char* name : kFields) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, kFields);
     f.setText("txtAns", QString());
 }
 

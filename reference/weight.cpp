@@ -7,6 +7,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -99,10 +100,7 @@ void Calculate(Form& f) {
 
 // Thru hole and quantity stay empty too, not back at 0 and 1; the cost stays.
 void ClearAll(Form& f) {
-    for (const char* name :
-         {"txtLengthW", "txtDiaW", "txtThruW", "txtWeightAns", "txtHeightW", "txtQtyW"}) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, {"txtLengthW", "txtDiaW", "txtThruW", "txtWeightAns", "txtHeightW", "txtQtyW"});
 }
 
 void Build(Form& f) {

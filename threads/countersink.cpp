@@ -73,9 +73,7 @@ void Calculate(Form& f) {
 }
 
 void ClearAll(Form& f) {
-    for (const char* name : kFields) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, kFields);
 }
 
 void Build(Form& f) {

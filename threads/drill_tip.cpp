@@ -37,9 +37,7 @@ void Calculate(Form& f) {
 }
 
 void ClearAll(Form& f) {
-    for (const char* name : {"txtDrillDiam", "txtDrillAngle", "txtDrillFlat", "txtDrillCompAns"}) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, {"txtDrillDiam", "txtDrillAngle", "txtDrillFlat", "txtDrillCompAns"});
 }
 
 void Build(Form& f) {

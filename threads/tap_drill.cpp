@@ -6,6 +6,7 @@
 #include "frame/form.h"
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
+#include "frame/window_kit.h"
 
 namespace tavrin {
 
@@ -75,9 +76,7 @@ void NumberClick(Form& f) {
 
 // The percent is emptied too: no 75 comes back.
 void ClearAll(Form& f) {
-    for (const char* name : {"txtPercent", "txtPitch", "txtTapSize", "txtTapAns"}) {
-        f.setText(name, QString());
-    }
+    EmptyTexts(f, {"txtPercent", "txtPitch", "txtTapSize", "txtTapAns"});
 }
 
 void Build(Form& f) {
