@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
@@ -258,6 +260,29 @@ TEST(QtWindows, TheRealBoxesShowLinesTellTheAnswerAndAFatalOneEndsTheProgram) {
     EXPECT_TRUE(ui.question("Asked", "go on?"));
     EXPECT_EXIT((AnswerNextBox(seen, QMessageBox::Ok), ui.fatal("Tavrin", "the end")),
                 ::testing::ExitedWithCode(3), "");
+}
+
+// A modal window holds the caller until Next Point hides it, once a point.
+TEST(QtWindows, AModalWindowWaitsForItsOwnButton) {
+    QtHarness h;
+    FormView* rotate = h.open("frmRotate");
+    QStringList seen;
+    std::function<void()> answer = [&] {
+        auto* v = qobject_cast<FormView*>(QApplication::activeModalWidget());
+        ASSERT_NE(v, nullptr);
+        seen << Find<QLabel>(v, "lblPointNum")->text();
+        QTest::keyClicks(Find<QLineEdit>(v, "txtXtoShift"), QString::number(seen.size()));
+        if (seen.size() < 2) {
+            QTimer::singleShot(0, answer);
+        }
+        Find<QAbstractButton>(v, "Command1")->click();
+    };
+    QTimer::singleShot(0, answer);
+    Find<QLineEdit>(rotate, "cboPoints")->clear();
+    QTest::keyClicks(Find<QLineEdit>(rotate, "cboPoints"), "2");
+    Find<QAbstractButton>(rotate, "Command1")->click();
+    EXPECT_EQ(seen, QStringList({"Point # 1", "Point # 2"}));
+    EXPECT_EQ(h.app.oldPointsText, " X 1 Y \r\n X 2 Y \r\n");
 }
 
 }  // namespace
