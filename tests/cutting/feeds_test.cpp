@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "cutting/arc_center.h"
 #include "cutting/cusp.h"
 #include "cutting/ipm_ipr.h"
 #include "cutting/tool_radius.h"
@@ -105,14 +104,6 @@ TEST(ToolRadius, CalculateRows) {
     EXPECT_EQ(h.run("frmTRC", {"chkDMStrc"}).caption("Field3079"), "");
 }
 
-TEST(ArcCenterSolver, BothMachines) {
-    const QString head = "Use of the following pairs depending on G02 or G03\r\n";
-    EXPECT_EQ(ArcCenterAnswer(.1, .2, .25, true, 4), head + "I=  .25 K=  .35\r\nI=  .15 K=  .15");
-    EXPECT_EQ(ArcCenterAnswer(.1, .2, .25, false, 4), head + "I=  .35 J=  .25\r\nI=  .15 J=  .15");
-    EXPECT_TRUE(
-        ArcCenterAnswer(-.1, .2, .25, true, 4).endsWith("I=  .15 K=  .45\r\nI=  .25 K=  .25"));
-}
-
 TEST(ArcCenter, CalculateRows) {
     const std::pair<QStringList, const char*> rows[] = {
         {{"txtXik=.25", "optMillIK"},
@@ -123,6 +114,9 @@ TEST(ArcCenter, CalculateRows) {
         {{"txtZik=.25"},
          "|Use of the following pairs depending on G02 or G03\r\nI=  .2456 K=  .3956\r\n"
          "I=  .1456 K=  .1456"},
+        {{"txtXik=-.1"},  // the other side of the centre
+         "|Use of the following pairs depending on G02 or G03\r\nI=  .15 K=  .45\r\nI=  .25 K=  "
+         ".25"},
         {{"txtZik=0"}, "Run-time error '11':\r\n\r\nDivision by zero|Calculating..."},
         {{"txtZik=", "txtXik="}, "Run-time error '6':\r\n\r\nOverflow|Calculating..."},
         {{"txtXik=-1"},  // a radius too small for the distances
