@@ -72,5 +72,23 @@ TEST(Catalogue, EveryWindowBuildsAndEveryControlRunsOnEmptyFields) {
     }
 }
 
+// Clear All empties every text box of its window, the answers with them, but
+// for the few that are kept or set back on purpose.
+TEST(Catalogue, ClearAllEmptiesEveryBoxButTheKeptOnes) {
+    QStringList left;
+    for (const QString& name : RegisteredFormNames()) {
+        Harness probe;
+        probe.app.guarded([&] { probe.app.load(name); });
+        for (const auto& c : probe.app.find(name)->controls()) {
+            if (c->kind == ControlKind::Button && c->caption == "Clear All") {
+                left << testing::BoxesClearAllLeaves(name, c->name);
+            }
+        }
+    }
+    EXPECT_EQ(left, QStringList({"frmBallDrop.txtHoleDepth=1", "frmPolar.txtXPolarPresent=0",
+                                 "frmPolar.txtYPolarPresent=0", "frmTrig.field2747=1",
+                                 "frmWeight.txtCost=1"}));
+}
+
 }  // namespace
 }  // namespace tavrin

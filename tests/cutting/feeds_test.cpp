@@ -136,11 +136,5 @@ TEST(ArcCenter, CalculateRows) {
     EXPECT_EQ(f.caption("Label2696") + f.caption("Label2697"), "X DistanceZ Distance");
 }
 
-TEST(CuttingWindows, ClearAllEmptiesEveryBox) {
-    for (const char* window : {"frmIpmIpr", "frmCusp", "frmTRC", "frmIK"}) {
-        testing::ExpectClearAllEmptiesEveryBox(window);
-    }
-}
-
 }  // namespace
 }  // namespace tavrin

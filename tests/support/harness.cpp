@@ -52,7 +52,7 @@ QString Outcome(const QString& window, const QStringList& steps, const QString& 
     return h.lastBox() + '|' + f.text(shown);
 }
 
-void ExpectClearAllEmptiesEveryBox(const QString& window) {
+QStringList BoxesClearAllLeaves(const QString& window, const QString& button) {
     Harness h;
     Form& f = h.open(window);
     QStringList boxes;
@@ -62,10 +62,14 @@ void ExpectClearAllEmptiesEveryBox(const QString& window) {
             h.set(f, c->name, "1");
         }
     }
-    h.click(f, "Command2");
+    h.click(f, button);
+    QStringList left;
     for (const QString& name : boxes) {
-        EXPECT_EQ(f.text(name), "") << window << "." << name;
+        if (!f.text(name).isEmpty()) {
+            left << window + "." + name + "=" + f.text(name);
+        }
     }
+    return left;
 }
 
 }  // namespace tavrin::testing

@@ -35,8 +35,8 @@ struct Harness {
 QString Outcome(const QString& window, const QStringList& steps, const QString& shown,
                 int decPlace = 4);
 
-// Types into every text box of the window, presses Clear All (Command2) and
-// expects every one of them empty again.
-void ExpectClearAllEmptiesEveryBox(const QString& window);
+// Types "1" into every text box of the window, presses its Clear All button
+// and gives back "window.box=text" for each box it left filled.
+QStringList BoxesClearAllLeaves(const QString& window, const QString& button);
 
 }  // namespace tavrin::testing

@@ -53,10 +53,5 @@ TEST(Countersink, CalculateRows) {
     }
 }
 
-TEST(DrillPoint, ClearAllEmptiesEveryBox) {
-    testing::ExpectClearAllEmptiesEveryBox("frmDrillTip");
-    testing::ExpectClearAllEmptiesEveryBox("frmCounterSink");
-}
-
 }  // namespace
 }  // namespace tavrin
