@@ -471,10 +471,47 @@ void FormView::startTimers() {
 void FormView::fitSize() {
     // Entry and answer layouts come and go on one window: it grows to hold
     // each, and never shrinks back, so that it does not jump as they change.
+    if (kept_.isEmpty()) {
+        kept_ = answerLayoutHint();
+    }
     kept_ = kept_.expandedTo(layout()->totalSizeHint());
     if (size() != kept_ || minimumSize() != kept_ || maximumSize() != kept_) {
         setFixedSize(kept_);
     }
+}
+
+namespace {
+// Forgets every size the layout and the layouts within it have worked out.
+void InvalidateAll(QLayout* layout) {
+    for (int i = 0; i < layout->count(); ++i) {
+        if (QLayout* inner = layout->itemAt(i)->layout()) {
+            InvalidateAll(inner);
+        }
+        layout->itemAt(i)->invalidate();
+    }
+    layout->invalidate();
+}
+}  // namespace
+
+// The size the other of a window's two layouts needs, tried on the widgets
+// alone and then put back, so that the window has room for both from the start.
+QSize FormView::answerLayoutHint() {
+    const Form::AnswerSwap& swap = form_->answerSwap();
+    const auto flip = [this](const QStringList& names, bool flipped) {
+        for (const QString& name : names) {
+            if (QWidget* w = widget(name)) {
+                w->setVisible(form_->control(name).visible != flipped);
+            }
+        }
+    };
+    flip(swap.entries, true);
+    flip(swap.answer, true);
+    InvalidateAll(layout());
+    const QSize hint = layout()->totalSizeHint();
+    flip(swap.entries, false);
+    flip(swap.answer, false);
+    InvalidateAll(layout());
+    return hint;
 }
 
 bool FormView::event(QEvent* event) {

@@ -47,6 +47,7 @@ class FormView : public QWidget, public FormObserver {
     void setTabOrder();
     void startTimers();
     void fitSize();
+    QSize answerLayoutHint();
     void place();
     void keepOnScreen();
     void sync(const Control& c);

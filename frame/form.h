@@ -139,6 +139,14 @@ class Form {
     void addField(const QString& labelName, const QString& caption, const QString& boxName);
     const std::vector<Row>& rows() const { return rows_; }
     void setOffLayout(const QStringList& names);
+    // Entry controls and an answer box with its own button that take each
+    // other's place: the display gives the window room for either from the start.
+    struct AnswerSwap {
+        QStringList entries;
+        QStringList answer;
+    };
+    void setAnswerSwap(AnswerSwap swap) { answerSwap_ = std::move(swap); }
+    const AnswerSwap& answerSwap() const { return answerSwap_; }
     // Every control stands in a row, is the side picture, a menu or a timer, or
     // is marked off-layout; otherwise the window is refused, naming the stray.
     void checkPlaced() const;
@@ -202,6 +210,7 @@ class Form {
     std::vector<std::unique_ptr<Control>> controls_;
     QHash<QString, std::size_t> index_;
     std::vector<Row> rows_;
+    AnswerSwap answerSwap_;
     QHash<QString, Handler> handlers_;
     double left_ = 0;
     double top_ = 0;

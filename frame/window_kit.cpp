@@ -37,11 +37,11 @@ void DeclarePictureWindow(Form& f, const QString& title, const QString& picture)
     f.addRow(RowKind::Line, {"Image1"});
 }
 
-void ShowAnswerBox(Form& f, const QStringList& entries, const QStringList& answer, bool shown) {
-    for (const QString& name : entries) {
+void ShowAnswerBox(Form& f, bool shown) {
+    for (const QString& name : f.answerSwap().entries) {
         f.setVisible(name, !shown);
     }
-    for (const QString& name : answer) {
+    for (const QString& name : f.answerSwap().answer) {
         f.setVisible(name, shown);
     }
 }

@@ -42,7 +42,7 @@ void EmptyTexts(Form& f, std::initializer_list<const char*> names);
 void DeclarePictureWindow(Form& f, const QString& title, const QString& picture);
 
 // The answer box and its own Done button take the place of the entry
-// controls, or give it back.
-void ShowAnswerBox(Form& f, const QStringList& entries, const QStringList& answer, bool shown);
+// controls, or give it back (the two sets declared by Form::setAnswerSwap).
+void ShowAnswerBox(Form& f, bool shown);
 
 }  // namespace tavrin

@@ -350,7 +350,7 @@ void SolveFirstOfTwo(ObliqueTriangle& t, const Ambiguous& pending) {
 namespace {
 
 void AnswerLayout(Form& f, bool answer) {
-    ShowAnswerBox(f, kEntries, {"txtOblAns", "cmdOblDone"}, answer);
+    ShowAnswerBox(f, answer);
 }
 
 // The message, and back to the entries; the answer box keeps what it had.
@@ -435,6 +435,7 @@ void EmptyFields(Form& f) {
 
 void Build(Form& f) {
     f.setTitle("Oblique Triangle Trigonometry");
+    f.setAnswerSwap({kEntries, {"txtOblAns", "cmdOblDone"}});
     f.addLabel("lblOblSides", "Sides");
     f.addLabel("lblOblAngles", "Angles");
     const char* sideCaptions[] = {"a", "b", "c"};

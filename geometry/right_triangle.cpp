@@ -166,12 +166,12 @@ void Calculate(Form& f) {
     f.setText("field2747", "Calculating...");
     const QString answer = RightTriangleAnswer(t, decPlace);
     f.setText("field2747", answer);
-    ShowAnswerBox(f, kEntries, kAnswer, true);
+    ShowAnswerBox(f, true);
 }
 
 void BackToEntry(Form& f) {
     f.setText("field2747", QString());
-    ShowAnswerBox(f, kEntries, kAnswer, false);
+    ShowAnswerBox(f, false);
 }
 
 void PairChosen(Form& f) {
@@ -185,6 +185,7 @@ void PairChosen(Form& f) {
 
 void Build(Form& f) {
     f.setTitle("Right Triangle Trigonometry");
+    f.setAnswerSwap({kEntries, kAnswer});
     Control& pop = f.add(ControlKind::DropDownList, "popSides");
     for (const KnownPair& p : kPairs) {
         pop.items << p.item;
