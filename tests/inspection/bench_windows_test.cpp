@@ -203,10 +203,9 @@ TEST(BenchWindows, CalculateRows) {
     }
 }
 
-TEST(BenchWindows, ClearAllImageAndHelp) {
+TEST(BenchWindows, ImageAndHelp) {
     const std::tuple<const Window&, QStringList, const char*> rows[] = {
         {kSine, {"Command3"}, "frmSinePlateView"},
-        {kTruePos, {}, ""},
         {kPin, {"Command3"}, "frmPinView"},
         {kSub,
          {"Command3"},
@@ -222,13 +221,7 @@ TEST(BenchWindows, ClearAllImageAndHelp) {
     };
     for (const auto& [w, steps, shown] : rows) {
         Harness h;
-        Form& f = h.run(
-            w.form, w.fill.split(' ') + QStringList{"Command1"} + steps + QStringList{"Command2"});
-        QString left = f.text(w.answer);
-        for (const QString& typed : w.fill.split(' ')) {
-            left += f.text(typed.section('=', 0, 0));
-        }
-        EXPECT_EQ(left, "") << w.form;
+        h.run(w.form, steps);
         EXPECT_TRUE(h.app.find(shown) != nullptr || h.lastBox() == shown) << w.form;
     }
 }
