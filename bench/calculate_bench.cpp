@@ -1,0 +1,192 @@
+// Every Calculate of every registered window, dressed with its worked example
+// from the gallery: once through the window logic alone (Calculate/...), once
+// through the script driver as tavrin-drive runs it (Drive/..., a fixed 10,000
+// clicks in one session, with the resident size before and after them).
+
+#include <benchmark/benchmark.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "frame/app.h"
+#include "frame/form.h"
+#include "frame/form_registry.h"
+#include "frame/recording_ui.h"
+#include "frame/settings_store.h"
+#include "tools/drive/driver.h"
+#include "tools/gallery/examples.h"
+
+namespace tavrin {
+namespace {
+
+constexpr int kDriveClicks = 10000;
+
+// A button that runs the window's arithmetic.
+bool IsCalculate(const Control& c) {
+    return c.kind == ControlKind::Button && (c.caption == "Calculate" || c.caption == "Convert");
+}
+
+const Example* ExampleOf(const QString& form) {
+    if (form == kFigureExample.form) {
+        return &kFigureExample;
+    }
+    for (const Example& e : kExamples) {
+        if (form == e.form) {
+            return &e;
+        }
+    }
+    return nullptr;
+}
+
+// Everything a click could change, to tell that it answered.
+QStringList Snapshot(const Form& f) {
+    QStringList state;
+    for (const auto& c : f.controls()) {
+        state << c->text << c->caption << QString::number(c->listIndex)
+              << QString::number(int(c->value) + 2 * int(c->visible));
+    }
+    return state;
+}
+
+double ResidentKib() {
+    std::ifstream statm("/proc/self/statm");
+    long size = 0;
+    long resident = 0;
+    statm >> size >> resident;
+    return double(resident) * double(sysconf(_SC_PAGESIZE)) / 1024.0;
+}
+
+struct Session {
+    RecordingUi ui;
+    MemorySettings settings;
+    App app{ui, settings};
+    Session() {
+        app.splashEnabled = false;
+        app.start();
+    }
+};
+
+// Types the example into its window, clicks once and says what went wrong, if anything.
+std::string Dress(Session& s, const Example& e, Form*& form) {
+    if (&e == &kFigureExample) {
+        Form& catalogue = s.app.show("form1");
+        s.app.userSelect(catalogue, "lstArea", kFigureRow);
+    }
+    form = &s.app.show(e.form);
+    for (const QString& field : e.fields) {
+        s.app.userType(*form, field.section('=', 0, 0), field.section('=', 1));
+    }
+    const QStringList before = Snapshot(*form);
+    s.app.userClick(*form, e.button);
+    if (!s.ui.shown.empty()) {
+        return "a box: " + s.ui.shown.front().text.toStdString();
+    }
+    const QStringList after = Snapshot(*form);
+    if (after == before) {
+        return "no answer";
+    }
+    for (const QString& text : after) {
+        if (!before.contains(text) && (text.contains("Invalid") || text.contains("Error"))) {
+            return "answers " + text.toStdString();
+        }
+    }
+    return {};
+}
+
+void Calculate(benchmark::State& state, const Example* e) {
+    if (e == nullptr) {
+        state.SkipWithError("no worked example");
+        return;
+    }
+    Session s;
+    Form* form = nullptr;
+    if (const std::string fault = Dress(s, *e, form); !fault.empty()) {
+        state.SkipWithError(fault.c_str());
+        return;
+    }
+    for (auto _ : state) {
+        s.app.userClick(*form, e->button);
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+
+void Drive(benchmark::State& state, const Example* e) {
+    if (e == nullptr) {
+        state.SkipWithError("no worked example");
+        return;
+    }
+    Session s;
+    std::ostringstream out;
+    std::istringstream in;
+    Driver driver(s.app, s.ui, out, in);
+    QStringList script;
+    if (e == &kFigureExample) {
+        script << "open form1" << QString("select form1.lstArea %1").arg(kFigureRow);
+    }
+    script << QString("open %1").arg(e->form);
+    for (const QString& field : e->fields) {
+        script << QString("set %1.%2 \"%3\"")
+                      .arg(e->form, field.section('=', 0, 0), field.section('=', 1));
+    }
+    const QString click = QString("click %1.%2").arg(e->form, e->button);
+    script << click;
+    for (const QString& line : script) {
+        if (driver.run(line) != Driver::Status::Going) {
+            break;
+        }
+    }
+    if (!out.str().empty()) {
+        state.SkipWithError(out.str().c_str());
+        return;
+    }
+    const double before = ResidentKib();
+    for (auto _ : state) {
+        driver.run(click);
+    }
+    const double after = ResidentKib();
+    if (!out.str().empty()) {
+        state.SkipWithError(out.str().c_str());
+        return;
+    }
+    state.SetItemsProcessed(state.iterations());
+    state.counters["rss_before_KiB"] = before;
+    state.counters["rss_after_KiB"] = after;
+}
+
+}  // namespace
+}  // namespace tavrin
+
+int main(int argc, char** argv) {
+    using namespace tavrin;
+    // The calculators, found by their buttons on each registered window as built.
+    RecordingUi ui;
+    MemorySettings settings;
+    App app(ui, settings);
+    std::vector<std::pair<std::string, const Example*>> calculators;
+    for (const QString& name : RegisteredFormNames()) {
+        Form form(app, name);
+        FindFormBuilder(name)(form);
+        for (const auto& c : form.controls()) {
+            if (IsCalculate(*c)) {
+                calculators.emplace_back(name.toStdString(), ExampleOf(name));
+                break;
+            }
+        }
+    }
+    for (const auto& [name, example] : calculators) {
+        benchmark::RegisterBenchmark(("Calculate/" + name).c_str(), Calculate, example)
+            ->Unit(benchmark::kMicrosecond);
+    }
+    for (const auto& [name, example] : calculators) {
+        benchmark::RegisterBenchmark(("Drive/" + name).c_str(), Drive, example)
+            ->Iterations(kDriveClicks)
+            ->Unit(benchmark::kMicrosecond);
+    }
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
