@@ -69,16 +69,40 @@ struct Session {
     }
 };
 
-// Types the example into its window, clicks once and says what went wrong, if anything.
-std::string Dress(Session& s, const Example& e, Form*& form) {
+// The example's fields, every other field of the window emptied first.
+QStringList Typing(const Form& form, const Example& e) {
+    QStringList typing;
+    for (const auto& c : form.controls()) {
+        if (c->kind == ControlKind::TextBox && !c->locked) {
+            typing << c->name + "=";
+        }
+    }
+    return typing + e.fields;
+}
+
+void Type(Session& s, Form& form, const Example& e) {
+    for (const QString& field : Typing(form, e)) {
+        s.app.userType(form, field.section('=', 0, 0), field.section('=', 1));
+    }
+}
+
+// The first line of what the driver wrote.
+std::string FirstLine(const std::ostringstream& out) {
+    const std::string text = out.str();
+    return text.substr(0, text.find('\n'));
+}
+
+// Types the example into its window, clicks and says what went wrong, if
+// anything. A window that fills its own fields with the answer (the three
+// sizes of a polygon) refuses a second click: there the fields are emptied
+// and typed again before every click.
+std::string Dress(Session& s, const Example& e, Form*& form, bool& retype) {
     if (&e == &kFigureExample) {
         Form& catalogue = s.app.show("form1");
         s.app.userSelect(catalogue, "lstArea", kFigureRow);
     }
     form = &s.app.show(e.form);
-    for (const QString& field : e.fields) {
-        s.app.userType(*form, field.section('=', 0, 0), field.section('=', 1));
-    }
+    Type(s, *form, e);
     const QStringList before = Snapshot(*form);
     s.app.userClick(*form, e.button);
     if (!s.ui.shown.empty()) {
@@ -93,6 +117,16 @@ std::string Dress(Session& s, const Example& e, Form*& form) {
             return "answers " + text.toStdString();
         }
     }
+    s.app.userClick(*form, e.button);
+    retype = !s.ui.shown.empty();
+    if (retype) {
+        s.ui.shown.clear();
+        Type(s, *form, e);
+        s.app.userClick(*form, e.button);
+        if (!s.ui.shown.empty()) {
+            return "a box after typing again: " + s.ui.shown.front().text.toStdString();
+        }
+    }
     return {};
 }
 
@@ -103,14 +137,19 @@ void Calculate(benchmark::State& state, const Example* e) {
     }
     Session s;
     Form* form = nullptr;
-    if (const std::string fault = Dress(s, *e, form); !fault.empty()) {
+    bool retype = false;
+    if (const std::string fault = Dress(s, *e, form, retype); !fault.empty()) {
         state.SkipWithError(fault.c_str());
         return;
     }
     for (auto _ : state) {
+        if (retype) {
+            Type(s, *form, *e);
+        }
         s.app.userClick(*form, e->button);
     }
     state.SetItemsProcessed(state.iterations());
+    state.counters["typed"] = retype;
 }
 
 void Drive(benchmark::State& state, const Example* e) {
@@ -122,36 +161,46 @@ void Drive(benchmark::State& state, const Example* e) {
     std::ostringstream out;
     std::istringstream in;
     Driver driver(s.app, s.ui, out, in);
-    QStringList script;
+    auto run = [&driver](const QStringList& lines) {
+        for (const QString& line : lines) {
+            driver.run(line);
+        }
+    };
+    QStringList opening;
     if (e == &kFigureExample) {
-        script << "open form1" << QString("select form1.lstArea %1").arg(kFigureRow);
+        opening << "open form1" << QString("select form1.lstArea %1").arg(kFigureRow);
     }
-    script << QString("open %1").arg(e->form);
-    for (const QString& field : e->fields) {
-        script << QString("set %1.%2 \"%3\"")
+    opening << QString("open %1").arg(e->form);
+    run(opening);
+    QStringList typing;
+    for (const QString& field : Typing(*s.app.find(e->form), *e)) {
+        typing << QString("set %1.%2 \"%3\"")
                       .arg(e->form, field.section('=', 0, 0), field.section('=', 1));
     }
     const QString click = QString("click %1.%2").arg(e->form, e->button);
-    script << click;
-    for (const QString& line : script) {
-        if (driver.run(line) != Driver::Status::Going) {
-            break;
-        }
-    }
+    run(typing + QStringList{click});
     if (!out.str().empty()) {
-        state.SkipWithError(out.str().c_str());
+        state.SkipWithError(FirstLine(out).c_str());
         return;
     }
+    driver.run(click);
+    const bool retype = !out.str().empty();
+    out.str({});
+    run(retype ? typing : QStringList{});
     const double before = ResidentKib();
     for (auto _ : state) {
+        if (retype) {
+            run(typing);
+        }
         driver.run(click);
     }
     const double after = ResidentKib();
     if (!out.str().empty()) {
-        state.SkipWithError(out.str().c_str());
+        state.SkipWithError(FirstLine(out).c_str());
         return;
     }
     state.SetItemsProcessed(state.iterations());
+    state.counters["typed"] = retype;
     state.counters["rss_before_KiB"] = before;
     state.counters["rss_after_KiB"] = after;
 }
