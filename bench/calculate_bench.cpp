@@ -9,6 +9,7 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "frame/app.h"
@@ -150,6 +151,10 @@ void Calculate(benchmark::State& state, const Example* e) {
             Type(s, *form, typing);
         }
         s.app.userClick(*form, e->button);
+    }
+    if (!s.ui.shown.empty()) {
+        state.SkipWithError(("a box: " + s.ui.shown.front().text.toStdString()).c_str());
+        return;
     }
     state.SetItemsProcessed(state.iterations());
     state.counters["typed"] = retype;
