@@ -16,6 +16,7 @@
 #include "app/qt_ui.h"
 #include "frame/app.h"
 #include "frame/form_registry.h"
+#include "tools/gallery/examples.h"
 
 namespace tavrin {
 namespace {
@@ -28,45 +29,6 @@ class GalleryUi : public QtUi {
     void fatal(const QString&, const QString& text) override {
         std::fprintf(stderr, "fatal box: %s\n", qPrintable(text));
     }
-};
-
-// A worked example for a calculator: its fields as typed, then its button.
-struct Example {
-    const char* form;
-    QStringList fields;
-    const char* button;
-};
-
-const Example kExamples[] = {
-    {"frmSfmToRpm", {"txtSfm=300", "txtDia=0.5"}, "Command1"},
-    {"frmTrig", {"txtSideOne=5", "txtSideTwo=3"}, "Command1"},
-    {"frmBoltCircle", {"Text1=4", "Text2=8", "Text3=0", "Text4=0", "Text5=0"}, "Command1"},
-    {"frmOblique", {"txtO_Side_a=6", "txtO_Side_b=8", "txtO_Angle_A=40"}, "cmdOblCalc"},
-    {"frmDDtoDMS", {"txtDD1=22.5"}, "Command1"},
-    {"frmBallDrop",
-     {"txtAngDrop=45", "txtBallDrop=.5", "txtDropOrDia=.625", "txtThruHole=.25"},
-     "Command1"},
-    {"frmConversions", {"txtToConvert=1"}, "Command1"},
-    {"frmWeight", {"txtLengthW=12", "txtDiaW=1", "txtQtyW=10", "txtCost=2"}, "Command1"},
-    {"frmTap", {"txtTapSize=.25", "txtPitch=20"}, "Command1"},
-    {"frmDrillTip", {"txtDrillDiam=.5", "txtDrillAngle=118"}, "Command1"},
-    {"frmCounterSink", {"txtDiameter=.5", "txtAngle=82"}, "Command1"},
-    {"frmIpmIpr", {"txtCutter=.5", "txtChipLoad=10", "txtFlutes=2", "txtSfm2=100"}, "Command1"},
-    {"frmCusp", {"txtRadCusp=.25", "txtStepOrCusp=.1"}, "Command1"},
-    {"frmTRC", {"txtTrc1=.1", "txtTrc2=30"}, "Command1"},
-    {"frmIK", {"txtXik=.1", "txtZik=.2", "txtradik=.25"}, "Command1"},
-    {"frmGrid", {"txtX=0", "txtY=0", "txtHx=3", "txtHy=2", "txtXstep=1", "txtYstep=1"}, "Command1"},
-    {"frmThdMill",
-     {"fld_TM_Xpos=0", "fld_TM_Ypos=0", "fld_TM_ZStart=.1", "fld_TM_Depth=.5", "fld_TM_Major=1",
-      "fld_TM_ToolDia=.5", "fld_TM_Pitch=.0625", "fld_TM_Feed=5"},
-     "Command1"},
-    {"frmLatheDrill",
-     {"fldx_start=1", "fldz_start=.1", "fldz_depth=.5", "fldq_peck=.2", "fld_chipclearance=.02",
-      "fld_feedrate=.004", "fldr_plane=.05"},
-     "Command1"},
-    {"frmLatheThread",
-     {"fldLT_Major=.5", "fldLT_tpu=20", "fldLT_xstart=.6", "fldLT_zstart=.1", "fldLT_zdist=-.75"},
-     "Command1"},
 };
 
 struct Shot {
