@@ -1,11 +1,13 @@
 #include "frame/numeric_text.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 
 namespace tavrin {
 
@@ -150,13 +152,22 @@ struct Digits15 {
 };
 
 Digits15 ToDigits15(double magnitude) {
-    char buffer[64];
-    std::snprintf(buffer, sizeof buffer, "%.14e", magnitude);
+    // The digits of printf's "%.14e", without its locale and its heap: long
+    // programs write two numbers a line.
+    char buffer[32];
+    const auto written =
+        std::to_chars(buffer, buffer + sizeof buffer, magnitude, std::chars_format::scientific, 14);
+    const std::string_view text(buffer, static_cast<std::size_t>(written.ptr - buffer));
+    const std::size_t e = std::min(text.find('e'), text.size());
     Digits15 d;
-    const std::string s(buffer);
-    const auto e = s.find('e');
-    d.digits = s.substr(0, 1) + s.substr(2, e - 2);
-    d.exponent = std::atoi(s.c_str() + e + 1);
+    d.digits.push_back(text.front());
+    for (std::size_t i = 2; i < e; ++i) {
+        d.digits.push_back(text[i]);
+    }
+    if (e + 2 < text.size()) {
+        std::from_chars(text.data() + e + 2, text.data() + text.size(), d.exponent);
+        d.exponent = text[e + 1] == '-' ? -d.exponent : d.exponent;
+    }
     return d;
 }
 
@@ -266,8 +277,8 @@ QString NumToText(int x) {
 QString FormatNum(Real x, const QString& pattern) {
     const double v = x.value();
     const int point = pattern.indexOf(u'.');
-    const QString front = point < 0 ? pattern : pattern.left(point);
-    const QString back = point < 0 ? QString() : pattern.mid(point + 1);
+    const QStringView front = point < 0 ? QStringView(pattern) : QStringView(pattern).left(point);
+    const QStringView back = point < 0 ? QStringView() : QStringView(pattern).mid(point + 1);
     const int places = static_cast<int>(back.size());
     const int forcedBack = static_cast<int>(back.lastIndexOf(u'0')) + 1;
 
@@ -305,21 +316,22 @@ QString FormatNum(Real x, const QString& pattern) {
         whole = all.substr(0, all.size() - places);
         fraction = all.substr(all.size() - places);
     }
-    const std::size_t firstNonZero = whole.find_first_not_of('0');
-    whole = firstNonZero == std::string::npos ? std::string() : whole.substr(firstNonZero);
+    whole.erase(0, whole.find_first_not_of('0'));
     if (whole.empty() && front.contains(u'0')) {
-        whole = "0";
+        whole.assign(1, '0');
     }
     // "#" places behind the point show only up to the last significant digit.
     int shown = places;
     while (shown > forcedBack && fraction[shown - 1] == '0') {
         --shown;
     }
-    QString t = QString::fromLatin1(whole);
+    std::string t = IsTrulyNegative(v) ? "-" : "";
+    t += whole;
     if (shown > 0 || forcedBack > 0) {
-        t += u'.' + QString::fromLatin1(fraction.substr(0, shown));
+        t += '.';
+        t.append(fraction, 0, static_cast<std::size_t>(shown));
     }
-    return IsTrulyNegative(v) ? QStringLiteral("-") + t : t;
+    return QString::fromLatin1(t);
 }
 
 std::int16_t IsNumberText(const QString& text) {

@@ -3,6 +3,7 @@
 
 #include "quickcode/grid.h"
 
+#include <algorithm>
 #include <cstdint>
 
 #include "frame/app.h"
@@ -15,10 +16,18 @@ namespace tavrin {
 
 namespace {
 
-QString HoleLine(std::int16_t c, Real x, Real y, bool noNumbers) {
-    const QString position =
-        "X" + FormatNum(x, "####0.0######") + "Y" + FormatNum(y, "####0.0######") + "\r\n";
-    return noNumbers ? position : NumToStr(c + 1) + "] " + position;
+// Appended piece by piece: 30,000 lines come at a click.
+void AppendHoleLine(QString& list, std::int16_t c, Real x, Real y, bool noNumbers) {
+    static const QString pattern = QStringLiteral("####0.0######");
+    if (!noNumbers) {
+        list += NumToStr(c + 1);
+        list += QStringLiteral("] ");
+    }
+    list += u'X';
+    list += FormatNum(x, pattern);
+    list += u'Y';
+    list += FormatNum(y, pattern);
+    list += QStringLiteral("\r\n");
 }
 
 }  // namespace
@@ -30,11 +39,12 @@ QString GridList(const GridJob& job, int decPlace, const std::function<bool()>& 
     Real x = job.x0;
     Real y = job.y0;
     QString list;
+    list.reserve(static_cast<qsizetype>(std::max<int>(total, 0)) * 32);
     // The rounded position is the running one: each hole builds on the last.
     const auto write = [&] {
         x = RoundTo(x, decPlace);
         y = RoundTo(y, decPlace);
-        list += HoleLine(c, x, y, job.noNumbers);
+        AppendHoleLine(list, c, x, y, job.noNumbers);
     };
     while (c <= total) {
         for (int i = 0; i < row; ++i) {
