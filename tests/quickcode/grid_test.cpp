@@ -38,22 +38,20 @@ TEST(Grid, HandlerRows) {
         {{"txtYstep=+1", "txtHx="}, "Error, one or more fields contain invalid data."},
         {{"txtHy="}, "Please fill all data fields."},
     };
+    const QStringList job{"txtX=0",     "txtY=0",     "txtHx=2",           "txtHy=3",
+                          "txtXstep=1", "txtYstep=1", "txtGridAns=earlier"};
     for (const auto& [steps, box] : rows) {
-        testing::Harness h;
-        QString waiting;
-        h.ui.onProcessEvents = [&] {
-            waiting = waiting.isEmpty() ? h.app.find("frmGrid")->text("txtGridAns") : waiting;
-        };
-        Form& f = h.run("frmGrid", {"txtX=0", "txtY=0", "txtHx=2", "txtHy=3", "txtXstep=1",
-                                    "txtYstep=1", "txtGridAns=earlier"});
-        h.run("frmGrid", steps + QStringList{"Command1"});
-        EXPECT_EQ(h.lastBox() + '|' + f.text("txtGridAns").left(12), QString(box) + "|earlier");
-        h.run("frmGrid", {"txtX=0", "txtYstep=1", "txtHx=2", "txtHy=3", "Command1"});
-        EXPECT_EQ(waiting, "Please wait...\r\nCalculating  6 holes");
-        EXPECT_EQ(f.text("txtGridAns").left(12), " 1] X0.0Y0.0");
+        EXPECT_EQ(testing::Outcome("frmGrid", job + steps << "Command1", "txtGridAns"),
+                  QString(box) + "|earlier");
     }
     testing::Harness h;
-    h.run("frmGrid", {"Command3"});
+    QString waiting;
+    h.ui.onProcessEvents = [&] {
+        waiting = waiting.isEmpty() ? h.app.find("frmGrid")->text("txtGridAns") : waiting;
+    };
+    Form& f = h.run("frmGrid", job + QStringList{"Command1", "Command3"});
+    EXPECT_EQ(waiting, "Please wait...\r\nCalculating  6 holes");
+    EXPECT_EQ(f.text("txtGridAns").left(12), " 1] X0.0Y0.0");
     EXPECT_EQ(h.lastBox(), "Enter negative or positive step values to set pattern direction.");
 }
 
