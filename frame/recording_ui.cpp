@@ -58,6 +58,7 @@ bool RecordingUi::startProgram(const QString& program) {
 QString RecordingUi::saveFileName(const QString& title, const QString& start,
                                   const QStringList& filters, int& filter) {
     QString name;
+    saveStart = start;
     if (!saveNames.empty()) {
         name = saveNames.front();
         saveNames.pop_front();

@@ -33,6 +33,7 @@ class RecordingUi : public Ui {
     std::deque<bool> answers;
     std::deque<QString> saveNames;
     int saveFilter = 0;  // the file type chosen with each name
+    QString saveStart;   // where the last save question began
     std::vector<PathPlot> plots;
     QStringList installedPrograms;
     QStringList startAttempts;
