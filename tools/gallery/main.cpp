@@ -71,8 +71,9 @@ int Render(const QString& folder) {
             ++failures;
         }
         titles << name << '\t' << form->title() << '\n';
-        // The worked programs of four generators, drawn as View Path shows them.
-        static const QStringList plotted{"frmBoltCircle", "frmGrid", "frmThdMill", "frmLatheDrill"};
+        // The worked programs of the generators, drawn as View Path shows them.
+        static const QStringList plotted{"frmBoltCircle", "frmGrid", "frmThdMill", "frmLatheDrill",
+                                         "frmLatheThread"};
         if (plotted.contains(name)) {
             app.userClick(*form, "cmdViewPath");
             QApplication::processEvents();
