@@ -23,6 +23,7 @@ TEST(GcodeReader, ArcRows) {
         const char* program;  // its last move is the arc looked at
         double cx, cy, cz, sweep;
         const char* fault;
+        double r = 1;
     } rows[] = {
         {"G00 X1 Y0\nG03 X0 Y1 I-1 J0", 0, 0, 0, 90, "ccw in the first quadrant"},
         {"G00 X0 Y1\nG03 X-1 Y0 J-1", 0, 0, 0, 90, "ccw in the second, I left out"},
@@ -42,6 +43,12 @@ TEST(GcodeReader, ArcRows) {
         {"G18 G00 X0 Z1\nG03 X1 Z0 K-1", 0, 0, 0, 90, "G18: K and I, Z towards X"},
         {"G19 G00 Y1 Z0\nG02 Y0 Z1 J-1", 0, 0, 0, -270, "G19: J and K, Y towards Z"},
         {"G00 X1 Y0\nG02 X0 Y1.0009 I-1", 0, 0, 0, -270, "an end within a thousandth is on"},
+        {"G00 X1 Y2\nG03 X0 Y3 J1", 1, 3, 0, 270, "J from the start's Y"},
+        {"G00 X3 Y1\nG03 X1 Y3 R2", 1, 1, 0, 90, "R off the origin", 2},
+        {"G00 X3 Y1\nG02 X1 Y3 R-2", 1, 1, 0, -270, "negative R clockwise", 2},
+        {"G00 X0.5 Y0\nG03 X0 Y0.5 R0.5", 0, 0, 0, 90, "R below one is not the long way", 0.5},
+        {"G00 X-2 Y0\nG02 X2 Y0 R2", 0, 0, 0, -180, "R across a diameter", 2},
+        {"G18 G00 X1 Y0\nG17 G03 X0 Y1 I-1", 0, 0, 0, 90, "G17 takes the plane back"},
     };
     for (const auto& row : rows) {
         const PathReading r = ReadPath(row.program);
@@ -52,7 +59,7 @@ TEST(GcodeReader, ArcRows) {
         EXPECT_NEAR(m.centre.y, row.cy, 1e-12) << row.fault;
         EXPECT_NEAR(m.centre.z, row.cz, 1e-12) << row.fault;
         EXPECT_NEAR(Degrees(m.sweep), row.sweep, 1e-9) << row.fault;
-        EXPECT_NEAR(m.radius, 1, 1e-12) << row.fault;
+        EXPECT_NEAR(m.radius, row.r, 1e-12) << row.fault;
     }
 }
 
@@ -64,7 +71,7 @@ TEST(GcodeReader, ProblemRows) {
         int line;
         const char* problem;
     } rows[] = {
-        {"G00 X1\nQ5", 2, "cannot read \"Q5\""},
+        {"G00 X1 Q5 Y1", 1, "cannot read \"Q5\""},
         {"G00 X? Z?", 1, "X has no number"},
         {"G28 X0", 1, "cannot read \"G28\""},
         {"G1.5 X0", 1, "cannot read \"G1.5\""},
@@ -82,7 +89,11 @@ TEST(GcodeReader, ProblemRows) {
         {" 3]", 1, "hole 3 has no position"},
         {"G00 X" + huge, 1, "X is out of range"},
         {"G00 G91 X" + big + "\nX" + big, 2, "the position is out of range"},
-        {"G00 \xc3\xa9" "5", 1, "cannot read \"\xc3\xa9" "5\""},
+        {"G00 \xc3\xa9"
+         "5",
+         1,
+         "cannot read \"\xc3\xa9"
+         "5\""},
     };
     for (const auto& row : rows) {
         const PathReading r = ReadPath(QString::fromStdString(row.program));
@@ -112,14 +123,16 @@ TEST(GcodeReader, HolesLinesAndTheThreadingCycle) {
     EXPECT_EQ(list.moves[0].from, list.moves[0].to) << "the first from nowhere known";
     EXPECT_EQ(list.moves[2].line, 3);
 
-    const PathReading moves = ReadPath("n10 g01 x1 y2 f5 m3 s900 t1 (a comment)\nG91 X1\nG0 Y1");
-    ASSERT_EQ(moves.moves.size(), 3u);
+    const PathReading moves =
+        ReadPath("n10 g01 x1 y2 z1 f5 m3 s900 t1 (a comment)\nG91 X1\nG0(c)Y1\nZ1");
+    ASSERT_EQ(moves.moves.size(), 4u);
     EXPECT_TRUE(moves.problems.empty());
     EXPECT_EQ(moves.moves[0].kind, MoveKind::Feed) << "not a hole once a motion is set";
     EXPECT_EQ(moves.moves[0].from, moves.moves[0].to);
-    EXPECT_EQ(moves.moves[1].to, (Point3{2, 2, 0}));
+    EXPECT_EQ(moves.moves[1].to, (Point3{2, 2, 1}));
     EXPECT_EQ(moves.moves[2].kind, MoveKind::Rapid);
-    EXPECT_EQ(moves.moves[2].to, (Point3{2, 3, 0}));
+    EXPECT_EQ(moves.moves[2].to, (Point3{2, 3, 1}));
+    EXPECT_EQ(moves.moves[3].to, (Point3{2, 3, 2})) << "Z alone moves";
 
     const PathReading thread = ReadPath("G00 X0.6 Z0.1\nG92 X0.5 Z-0.75 F0.05\nX0.4\nG00 X1");
     ASSERT_EQ(thread.moves.size(), 10u);
@@ -149,6 +162,11 @@ TEST(GcodeReader, PointsAlongAMoveAndTheNamesOfTheKinds) {
     EXPECT_NEAR(t[1].y, -1, 1e-12) << "clockwise: down first";
     EXPECT_NEAR(t[2].x, -1, 1e-12);
     EXPECT_NEAR(t[2].z, -0.05, 1e-12) << "half the turn, half the fall";
+    // Across G18's plane Y rises, across G19's X.
+    const PathMove zx = ReadPath("G18 G00 X0 Y0 Z1\nG03 X1 Y1 Z0 K-1").moves.back();
+    EXPECT_NEAR(PointsAlong(zx, 8)[1].y, 0.5, 1e-12);
+    const PathMove yz = ReadPath("G19 G00 X0 Y1 Z0\nG03 X1 Y0 Z1 J-1").moves.back();
+    EXPECT_NEAR(PointsAlong(yz, 4)[1].x, 0.5, 1e-12);
     EXPECT_EQ(PointsAlong(ReadPath("G00 X1 Y0\nG02 X0 Y1 R-1").moves.back(), 1).size(), 4u)
         << "at least four steps a turn";
     EXPECT_EQ(PointsAlong(ReadPath("G01 X1 Y0").moves.back(), 8).size(), 2u);
