@@ -49,6 +49,7 @@ TEST(GcodeReader, ArcRows) {
         {"G00 X0.5 Y0\nG03 X0 Y0.5 R0.5", 0, 0, 0, 90, "R below one is not the long way", 0.5},
         {"G00 X-2 Y0\nG02 X2 Y0 R2", 0, 0, 0, -180, "R across a diameter", 2},
         {"G18 G00 X1 Y0\nG17 G03 X0 Y1 I-1", 0, 0, 0, 90, "G17 takes the plane back"},
+        {"G00 X0 Y-1\nG03 J1", 0, 0, 0, 360, "J alone: a full turn where the tool stands"},
     };
     for (const auto& row : rows) {
         const PathReading r = ReadPath(row.program);
@@ -60,6 +61,7 @@ TEST(GcodeReader, ArcRows) {
         EXPECT_NEAR(m.centre.z, row.cz, 1e-12) << row.fault;
         EXPECT_NEAR(Degrees(m.sweep), row.sweep, 1e-9) << row.fault;
         EXPECT_NEAR(m.radius, row.r, 1e-12) << row.fault;
+        EXPECT_EQ(m.kind, row.sweep < 0 ? MoveKind::ArcCw : MoveKind::ArcCcw) << row.fault;
     }
 }
 
@@ -88,7 +90,7 @@ TEST(GcodeReader, ProblemRows) {
         {"G00 X0.6 Z0.1\nG92 X0.5", 2, "G92 needs a Z end"},
         {" 3]", 1, "hole 3 has no position"},
         {"G00 X" + huge, 1, "X is out of range"},
-        {"G00 G91 X" + big + "\nX" + big, 2, "the position is out of range"},
+        {"G00 G91 Y" + big + "\nY" + big, 2, "the position is out of range"},
         {"G00 \xc3\xa9"
          "5",
          1,
@@ -122,6 +124,9 @@ TEST(GcodeReader, HolesLinesAndTheThreadingCycle) {
     EXPECT_EQ(second.to, (Point3{-0.866, -0.5, 0}));
     EXPECT_EQ(list.moves[0].from, list.moves[0].to) << "the first from nowhere known";
     EXPECT_EQ(list.moves[2].line, 3);
+    const PathReading lone = ReadPath("G00 X1 Y0\rG03 X0 Y1 I-1\rG01 Y2");
+    EXPECT_EQ(lone.moves.back().line, 3) << "a bare CR ends a line too";
+    EXPECT_EQ(lone.moves.back().from, (Point3{0, 1, 0})) << "on from the arc's end";
 
     const PathReading moves =
         ReadPath("n10 g01 x1 y2 z1 f5 m3 s900 t1 (a comment)\nG91 X1\nG0(c)Y1\nZ1");
@@ -150,18 +155,18 @@ TEST(GcodeReader, HolesLinesAndTheThreadingCycle) {
 }
 
 TEST(GcodeReader, PointsAlongAMoveAndTheNamesOfTheKinds) {
-    const PathMove quarter = ReadPath("G00 X1 Y0\nG03 X0 Y1 I-1").moves.back();
+    const PathMove quarter = ReadPath("G00 X1 Y3\nG02 X3 Y1 J-2").moves.back();
     const std::vector<Point3> q = PointsAlong(quarter, 8);
     ASSERT_EQ(q.size(), 3u);
-    EXPECT_NEAR(q[1].x, std::sqrt(0.5), 1e-12);
-    EXPECT_NEAR(q[1].y, std::sqrt(0.5), 1e-12);
+    EXPECT_NEAR(q[1].x, 1 + std::sqrt(2), 1e-12);
+    EXPECT_NEAR(q[1].y, 1 + std::sqrt(2), 1e-12);
     EXPECT_EQ(q[2], quarter.to);
-    const PathMove turn = ReadPath("G00 X1 Y0 Z0\nG02 Z-0.1 I-1").moves.back();
+    const PathMove turn = ReadPath("G00 X1 Y0 Z1\nG02 Z0.9 I-1").moves.back();
     const std::vector<Point3> t = PointsAlong(turn, 4);
     ASSERT_EQ(t.size(), 5u);
     EXPECT_NEAR(t[1].y, -1, 1e-12) << "clockwise: down first";
     EXPECT_NEAR(t[2].x, -1, 1e-12);
-    EXPECT_NEAR(t[2].z, -0.05, 1e-12) << "half the turn, half the fall";
+    EXPECT_NEAR(t[2].z, 0.95, 1e-12) << "half the turn, half the fall";
     // Across G18's plane Y rises, across G19's X.
     const PathMove zx = ReadPath("G18 G00 X0 Y0 Z1\nG03 X1 Y1 Z0 K-1").moves.back();
     EXPECT_NEAR(PointsAlong(zx, 8)[1].y, 0.5, 1e-12);
