@@ -1,7 +1,9 @@
 #include "app/qt_ui.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QEventLoop>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QProcess>
 #include <QTime>
@@ -10,6 +12,7 @@
 
 #include "app/display_text.h"
 #include "app/form_view.h"
+#include "app/path_view.h"
 #include "frame/app.h"
 
 namespace tavrin {
@@ -24,6 +27,10 @@ QWidget* ActiveParent() {
 
 FormView* QtUi::viewOf(const Form& form) const {
     return views_.value(&form);
+}
+
+PathWindow* QtUi::pathOf(const Form& form) const {
+    return paths_.value(&form);
 }
 
 FormView* QtUi::ensureView(Form& form) {
@@ -70,6 +77,7 @@ void QtUi::hideWindow(Form& form) {
 }
 
 void QtUi::windowUnloaded(Form& form) {
+    paths_.remove(&form);  // the path window goes with its owner's view
     if (FormView* view = views_.take(&form)) {
         view->dropForm();
     }
@@ -114,6 +122,44 @@ bool QtUi::startProgram(const QString& program) {
 
 float QtUi::secondsSinceMidnight() {
     return static_cast<float>(QTime::currentTime().msecsSinceStartOfDay()) / 1000.0f;
+}
+
+QString QtUi::saveFileName(const QString& title, const QString& start, const QStringList& filters,
+                           int& filter) {
+    QFileDialog dialog(ActiveParent(), title, start);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(filters);
+    // The dialog adds the chosen type's extension itself, so that it can ask
+    // before overwriting the file that name really means.
+    const auto extension = [](const QString& filter) {
+        const auto star = filter.lastIndexOf(QStringLiteral("*."));
+        return star < 0 ? QString() : filter.mid(star + 2).chopped(1);
+    };
+    dialog.setDefaultSuffix(extension(filters.value(0)));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&](const QString& chosen) { dialog.setDefaultSuffix(extension(chosen)); });
+    if (dialog.exec() != QDialog::Accepted) {
+        return QString();
+    }
+    filter = static_cast<int>(filters.indexOf(dialog.selectedNameFilter()));
+    return dialog.selectedFiles().value(0);
+}
+
+void QtUi::setClipboardText(const QString& text) {
+    // As the answer box's own copy gives it: the desktop's line ends.
+    QGuiApplication::clipboard()->setText(ForDisplay(text));
+}
+
+void QtUi::showPath(Form& form, const PathPlot& plot) {
+    QPointer<PathWindow>& window = paths_[&form];
+    if (window == nullptr) {
+        // A child of the generator's view: it closes and goes with it.
+        window = new PathWindow(views_.value(&form));
+    }
+    window->setPlot(plot);
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
 void QtUi::quit() {

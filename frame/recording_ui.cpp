@@ -55,6 +55,28 @@ bool RecordingUi::startProgram(const QString& program) {
     return installedPrograms.contains(program);
 }
 
+QString RecordingUi::saveFileName(const QString& title, const QString& start,
+                                  const QStringList& filters, int& filter) {
+    QString name;
+    saveStart = start;
+    if (!saveNames.empty()) {
+        name = saveNames.front();
+        saveNames.pop_front();
+        filter = saveFilter;
+    }
+    record({Kind::SaveName, title, name});
+    return name;
+}
+
+void RecordingUi::setClipboardText(const QString& text) {
+    record({Kind::Clipboard, QString(), text});
+}
+
+void RecordingUi::showPath(Form& form, const PathPlot& plot) {
+    plots.push_back(plot);
+    record({Kind::Path, plot.title, QString()});
+}
+
 QStringList RecordingUi::texts(Kind kind) const {
     QStringList out;
     for (const Shown& box : shown) {

@@ -8,16 +8,20 @@
 #include <vector>
 
 #include "frame/ui.h"
+#include "quickcode/gcode_reader.h"
 
 namespace tavrin {
 
 // A display that has none: it keeps each message, question and fatal box in
-// order, answers questions from a queue (No when it is empty), starts only
+// order, answers questions from a queue (No when it is empty) and save
+// questions from another (cancelled when it is empty), keeps what goes to the
+// clipboard and each path shown, starts only
 // the programs it is told are installed, and its clock moves half a second a
 // reading. The script driver and the tests both run the windows on it.
 class RecordingUi : public Ui {
   public:
-    enum class Kind { Message, Question, Fatal };
+    // A save question's text is the name given; a clipboard's, the text put there.
+    enum class Kind { Message, Question, Fatal, SaveName, Clipboard, Path };
     struct Shown {
         Kind kind;
         QString title;
@@ -27,6 +31,10 @@ class RecordingUi : public Ui {
 
     std::vector<Shown> shown;
     std::deque<bool> answers;
+    std::deque<QString> saveNames;
+    int saveFilter = 0;  // the file type chosen with each name
+    QString saveStart;   // where the last save question began
+    std::vector<PathPlot> plots;
     QStringList installedPrograms;
     QStringList startAttempts;
     QStringList shownWindows;
@@ -55,6 +63,10 @@ class RecordingUi : public Ui {
     bool startProgram(const QString& program) override;
     float secondsSinceMidnight() override { return clock += 0.5f; }
     void quit() override { ++quits; }
+    QString saveFileName(const QString& title, const QString& start, const QStringList& filters,
+                         int& filter) override;
+    void setClipboardText(const QString& text) override;
+    void showPath(Form& form, const PathPlot& plot) override;
 
     // The texts of the boxes of one kind, in order.
     QStringList texts(Kind kind) const;

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace tavrin {
 
 class Form;
+struct PathPlot;
 
 // Everything the logic asks of a display. The Qt windows, the script driver and
 // the tests each stand behind it.
@@ -38,6 +40,17 @@ class Ui {
     virtual float secondsSinceMidnight() = 0;
     // The last window is gone: the program ends.
     virtual void quit() = 0;
+    // The file to save under, asked from `start` (a folder and a suggested
+    // name) with the file types of `filters` ("G-code (*.nc)"); `filter` is
+    // the index of the type chosen. Empty when the user cancels, as a display
+    // that cannot ask always does.
+    virtual QString saveFileName(const QString& /*title*/, const QString& /*start*/,
+                                 const QStringList& /*filters*/, int& /*filter*/) {
+        return QString();
+    }
+    virtual void setClipboardText(const QString& /*text*/) {}
+    // Shows the moves of a program, in a window of `form`'s own, reused.
+    virtual void showPath(Form& /*form*/, const PathPlot& /*plot*/) {}
 };
 
 }  // namespace tavrin

@@ -8,6 +8,7 @@
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
 #include "frame/window_kit.h"
+#include "quickcode/program_tools.h"
 
 namespace tavrin {
 
@@ -140,6 +141,7 @@ void Build(Form& f) {
     f.onClick("Command1", Calculate);
     f.onClick("Command2", ClearAll);
     f.onClick("Command3", Help);
+    AddProgramTools(f, "Text7", PathView::Holes);
 }
 
 const FormRegistration registration("frmBoltCircle", Build);

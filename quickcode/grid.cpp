@@ -11,6 +11,7 @@
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
 #include "frame/window_kit.h"
+#include "quickcode/program_tools.h"
 
 namespace tavrin {
 
@@ -138,6 +139,7 @@ void Build(Form& f) {
     f.onClick("Command3", [](Form& f) {
         ProgramMessage(f, "Enter negative or positive step values to set pattern direction.");
     });
+    AddProgramTools(f, "txtGridAns", PathView::Holes);
 }
 
 const FormRegistration registration("frmGrid", Build);

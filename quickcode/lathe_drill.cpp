@@ -11,6 +11,7 @@
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
 #include "frame/window_kit.h"
+#include "quickcode/program_tools.h"
 
 namespace tavrin {
 
@@ -301,6 +302,7 @@ void Build(Form& f) {
     f.onClick("Command3", [](Form& f) {
         f.setText("fld_lathe_drill_ans", StripN(f.text("fld_lathe_drill_ans")));
     });
+    AddProgramTools(f, "fld_lathe_drill_ans", PathView::Lathe);
 }
 
 const FormRegistration registration("frmLatheDrill", Build);

@@ -12,6 +12,7 @@
 #include "frame/numeric_text.h"
 #include "frame/window_kit.h"
 #include "quickcode/lathe_drill.h"
+#include "quickcode/program_tools.h"
 
 namespace tavrin {
 
@@ -182,6 +183,7 @@ void Build(Form& f) {
     f.onClick("Command1", Calculate);
     f.onClick("Command2", ClearAll);
     f.onClick("Command3", [](Form& f) { f.setText("fldLT_Ans", StripN(f.text("fldLT_Ans"))); });
+    AddProgramTools(f, "fldLT_Ans", PathView::Lathe);
 }
 
 const FormRegistration registration("frmLatheThread", Build);

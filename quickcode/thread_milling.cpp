@@ -11,6 +11,7 @@
 #include "frame/form_registry.h"
 #include "frame/numeric_text.h"
 #include "frame/window_kit.h"
+#include "quickcode/program_tools.h"
 
 namespace tavrin {
 
@@ -286,6 +287,7 @@ void Build(Form& f) {
     f.onLoad(Load);
     f.onClick("Command1", Calculate);
     f.onClick("Command2", ClearAll);
+    AddProgramTools(f, kAnswer, PathView::Mill);
 }
 
 const FormRegistration registration("frmThdMill", Build);

@@ -7,6 +7,8 @@
 #include <string>
 
 #include "frame/form_registry.h"
+#include "quickcode/gcode_reader.h"
+#include "quickcode/program_tools.h"
 #include "tools/drive/json_line.h"
 
 namespace tavrin {
@@ -71,6 +73,24 @@ JsonLine Describe(const QString& target, const Control& c, bool focused) {
     return line;
 }
 
+QJsonArray Xyz(const Point3& p) {
+    return QJsonArray{p.x, p.y, p.z};
+}
+
+JsonLine DescribeMove(const PathMove& m) {
+    const bool arc = m.kind == MoveKind::ArcCw || m.kind == MoveKind::ArcCcw;
+    JsonLine line;
+    line.add("kind", MoveKindName(m.kind))
+        .add("from", Xyz(m.from))
+        .add("to", Xyz(m.to))
+        .add("centre", arc ? QJsonValue(Xyz(m.centre)) : QJsonValue())
+        .add("line", m.line);
+    if (m.kind == MoveKind::Hole) {
+        line.add("number", m.number);
+    }
+    return line;
+}
+
 }  // namespace
 
 Driver::Driver(App& app, RecordingUi& ui, std::ostream& out, std::istream& in)
@@ -105,6 +125,21 @@ Driver::Driver(App& app, RecordingUi& ui, std::ostream& out, std::istream& in)
             case RecordingUi::Kind::Fatal:
                 Write(out_, JsonLine().add("event", "fatal").add("text", box.text));
                 break;
+            case RecordingUi::Kind::SaveName:  // cancelled: the driver saves through `save`
+                Write(out_, JsonLine().add("event", "save").add("file", box.text));
+                break;
+            case RecordingUi::Kind::Clipboard:
+                Write(out_, JsonLine().add("event", "clipboard").add("text", box.text));
+                break;
+            case RecordingUi::Kind::Path: {
+                const PathReading& reading = ui_.plots.back().reading;
+                Write(out_, JsonLine()
+                                .add("event", "plot")
+                                .add("title", box.title)
+                                .add("moves", static_cast<int>(reading.moves.size()))
+                                .add("problems", static_cast<int>(reading.problems.size())));
+                break;
+            }
         }
     };
 }
@@ -193,6 +228,48 @@ Driver::Status Driver::show(const QString& target) {
     return Status::Going;
 }
 
+// `path` prints the moves of a text box's program and the lines it cannot
+// read; `save` writes the box's text to a file, as Save As would.
+Driver::Status Driver::program(const QString& verb, const QString& target,
+                               const QString& argument) {
+    QString formName;
+    QString controlName;
+    if (!SplitTarget(target, formName, controlName)) {
+        return fail(QStringLiteral("expected FORM.CONTROL, not %1").arg(target));
+    }
+    QString why;
+    Form* form = openForm(formName, why);
+    if (form == nullptr) {
+        return fail(why);
+    }
+    if (!form->has(controlName)) {
+        return fail(QStringLiteral("no control %1 on %2").arg(controlName, formName));
+    }
+    if (form->control(controlName).kind != ControlKind::TextBox) {
+        return fail(QStringLiteral("%1 is not a text box").arg(target));
+    }
+    if (verb == "path") {
+        const PathReading reading = ReadPath(form->text(controlName));
+        for (const PathMove& move : reading.moves) {
+            Write(out_, DescribeMove(move));
+        }
+        for (const PathProblem& problem : reading.problems) {
+            Write(out_, JsonLine().add("problem", problem.text).add("line", problem.line));
+        }
+        return Status::Going;
+    }
+    QString file;
+    if (!ParseJsonString(argument, file) || file.isEmpty()) {
+        return fail(QStringLiteral("expected a file name as a JSON string, not %1").arg(argument));
+    }
+    QString written;
+    app_.guarded([&] { written = SaveProgram(*form, controlName, file); });
+    if (!written.isEmpty()) {
+        Write(out_, JsonLine().add("event", "saved").add("file", written));
+    }
+    return afterStep();
+}
+
 Driver::Status Driver::run(const QString& rawLine) {
     const QString line = rawLine.trimmed();
     if (line.isEmpty() || line.startsWith(u'#')) {
@@ -231,6 +308,9 @@ Driver::Status Driver::run(const QString& rawLine) {
             }
             app_.userClose(*form);
             return afterStep();
+        }
+        if (verb == "path" || verb == "save") {
+            return program(verb, target, argument);
         }
         if (verb != "set" && verb != "click" && verb != "select" && verb != "type" &&
             verb != "spin") {

@@ -32,6 +32,7 @@ class Driver {
     Status afterStep();
     Form* openForm(const QString& name, QString& why);
     Status show(const QString& target);
+    Status program(const QString& verb, const QString& target, const QString& argument);
 
     // A loop that gives the display this many passes in one step has no end
     // a script could wait for: its window is closed, as a user would close it.

@@ -13,6 +13,7 @@
 #include <cstdlib>
 
 #include "app/form_view.h"
+#include "app/path_view.h"
 #include "app/qt_ui.h"
 #include "frame/app.h"
 #include "frame/form_registry.h"
@@ -70,6 +71,20 @@ int Render(const QString& folder) {
             ++failures;
         }
         titles << name << '\t' << form->title() << '\n';
+        // The worked programs of the generators, drawn as View Path shows them.
+        static const QStringList plotted{"frmBoltCircle", "frmGrid", "frmThdMill", "frmLatheDrill",
+                                         "frmLatheThread"};
+        if (plotted.contains(name)) {
+            app.userClick(*form, "cmdViewPath");
+            QApplication::processEvents();
+            PathWindow* path = ui.pathOf(*form);
+            if (path == nullptr || !path->grab().save(folder + "/" + name + "-path.png")) {
+                std::fprintf(stderr, "%s: its path could not be saved\n", qPrintable(name));
+                ++failures;
+            } else {
+                titles << name << "-path\t" << path->windowTitle() << '\n';
+            }
+        }
         for (Form* f : app.loadedForms()) {
             delete ui.viewOf(*f);
         }
