@@ -112,10 +112,13 @@ void Check(const QString& input, char op, double a, double b) {
             break;
         }
         case 'r': {
-            if (std::fabs(b) > 22) {
-                break;  // 10^n is exact up to 22 places
+            const int n = static_cast<int>(std::clamp(b, -2.0, 400.0));
+            if (n > 22) {  // 10^n is exact up to 22 places; beyond, only finite or an overflow
+                if (run({6}, [&] { return RoundTo(a, n).value(); }) == 0) {
+                    FUZZ_EXPECT(std::isfinite(got), input, QString::number(got));
+                }
+                break;
             }
-            const int n = static_cast<int>(b);
             double scale = 1;
             for (int i = 0; i < n; ++i) {
                 scale *= 10;

@@ -130,6 +130,17 @@ void Check(const QString& text) {
     if (strict.error == 0) {
         FUZZ_EXPECT(strict == ReadByValOf(text.trimmed(), text), text, Describe(strict));
     }
+    // The settings are read so: a number in the 16-bit range, nearest, ties
+    // to even; beyond it an overflow.
+    Outcome int16;
+    int16.error = ErrorOf([&] { int16.value = StrictInt16(text); }, {6, 13},
+                          "StrictInt16 raises only Overflow or Type mismatch", text);
+    Outcome expected16 = strict;
+    if (strict.error == 0) {
+        expected16.value = std::nearbyint(strict.value);
+        expected16.error = expected16.value < -32768 || expected16.value > 32767 ? 6 : 0;
+    }
+    FUZZ_EXPECT(int16 == expected16, text, Describe(int16));
 
     // IsDigitText shortens its argument to the first character.
     QString shortened = text;
