@@ -39,8 +39,7 @@ if(NOT TAVRIN_LIBFUZZER)
 endif()
 
 include(ExternalProject)
-set(TAVRIN_FUZZ_TARGETS text_to_number num_to_str format_num dms_text checked_arithmetic
-    settings_file)
+set(TAVRIN_FUZZ_TARGETS text_to_number num_to_str format_num dms_text checked_arithmetic)
 set(fuzz_build ${CMAKE_BINARY_DIR}/fuzz-targets)
 ExternalProject_Add(fuzz_targets
     SOURCE_DIR ${PROJECT_SOURCE_DIR}/tests/fuzz/targets

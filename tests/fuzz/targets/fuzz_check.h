@@ -23,25 +23,20 @@ inline QString TextOf(const std::uint8_t* data, std::size_t size) {
 }
 
 // Aborts, so that libFuzzer keeps the input as a crash file.
-[[noreturn]] inline void Broken(const char* property, const QString& input, const QString& got) {
-    std::fprintf(stderr, "\nbroken: %s\n  input: \"%s\"\n  got:   \"%s\"\n", property,
-                 qUtf8Printable(input), qUtf8Printable(got));
-    std::abort();
-}
-
-#define FUZZ_EXPECT(holds, input, got)                  \
-    do {                                                \
-        if (!(holds)) {                                 \
-            ::tavrin::fuzz::Broken(#holds, input, got); \
-        }                                               \
+#define FUZZ_EXPECT(holds, input, got)                                                       \
+    do {                                                                                     \
+        if (!(holds)) {                                                                      \
+            std::fprintf(stderr, "\nbroken: %s\n  input: \"%s\"\n  got:   \"%s\"\n", #holds, \
+                         qUtf8Printable(input), qUtf8Printable(got));                        \
+            std::abort();                                                                    \
+        }                                                                                    \
     } while (false)
 
 // Runs a step and gives the number of the run-time error it raised, 0 for
-// none; a number outside `allowed` is a broken property. Any other exception
+// none; a number outside `allowed` breaks the property. Any other exception
 // leaves the target, and libFuzzer reports it.
 template <typename Step>
-int ErrorOf(Step&& step, std::initializer_list<int> allowed, const char* what,
-            const QString& input) {
+int ErrorOf(Step&& step, std::initializer_list<int> allowed, const QString& input) {
     try {
         step();
     } catch (const RunTimeError& e) {
@@ -50,46 +45,27 @@ int ErrorOf(Step&& step, std::initializer_list<int> allowed, const char* what,
                 return number;
             }
         }
-        Broken(what, input, e.fatalText());
+        FUZZ_EXPECT(!"a numbered failure of this step", input, e.fatalText());
     }
     return 0;
 }
 
-// The whole text matches the pattern (anchored at both ends; "$" alone would
-// let a final line feed through).
+// The whole text matches the pattern.
 inline bool Matches(const QString& text, const QString& pattern) {
-    const QRegularExpression re(QStringLiteral("\\A(?:") + pattern + QStringLiteral(")\\z"));
-    return re.match(text).hasMatch();
+    return QRegularExpression(QStringLiteral("\\A(?:") + pattern + QStringLiteral(")\\z"))
+        .match(text)
+        .hasMatch();
 }
 
-// A double written in the C locale's plain form, read by the standard library
-// rather than by the code under test; false when the text is none or not finite.
+// A finite double written in the C locale's plain form ("0x..." for exact
+// bits), read by the standard library rather than by the code under test.
 inline bool ReadDouble(const std::string& text, double& value) {
-    const char* first = text.data();
-    const char* last = first + text.size();
-    auto format = std::chars_format::general;
-    if (text.rfind("0x", 0) == 0) {  // hexadecimal, for exact bit patterns
-        first += 2;
-        format = std::chars_format::hex;
-    }
-    const auto [end, ec] = std::from_chars(first, last, value, format);
+    const bool hex = text.rfind("0x", 0) == 0;
+    const char* last = text.data() + text.size();
+    const auto [end, ec] =
+        std::from_chars(text.data() + (hex ? 2 : 0), last, value,
+                        hex ? std::chars_format::hex : std::chars_format::general);
     return ec == std::errc() && end == last && std::isfinite(value);
-}
-
-// The 15 significant digits of |x| and the exponent of the first, from printf
-// (the C library's correctly rounded conversion, ties to even).
-struct Digits {
-    std::string digits;
-    int exponent = 0;
-};
-inline Digits FifteenDigits(double x) {
-    char buffer[64];
-    std::snprintf(buffer, sizeof buffer, "%.14e", std::fabs(x));
-    Digits d;
-    const std::string text(buffer);
-    d.digits = text.substr(0, 1) + text.substr(2, 14);
-    d.exponent = std::atoi(text.c_str() + text.find('e') + 1);
-    return d;
 }
 
 }  // namespace tavrin::fuzz
