@@ -1,13 +1,34 @@
 #include "frame/settings_store.h"
 
+#include <QFile>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 
 namespace tavrin {
 
 namespace {
 QString Path(const QString& section, const QString& key) {
     return section + u'/' + key;
+}
+
+// What the file itself holds under the key. It is read from a copy: every
+// QSettings of one file shares what is still to be written to it, and keeps
+// its first error (a damaged file read at the start) for good, so neither
+// tells whether a later write reached the file.
+QVariant ValueOnDisk(const QString& file, const QString& path) {
+    QFile source(file);
+    QTemporaryFile copy;
+    if (!source.open(QIODevice::ReadOnly) || !copy.open()) {
+        return {};
+    }
+    while (!source.atEnd()) {
+        if (copy.write(source.read(1 << 16)) < 0) {
+            return {};
+        }
+    }
+    copy.flush();
+    return QSettings(copy.fileName(), QSettings::IniFormat).value(path);
 }
 }  // namespace
 
@@ -39,7 +60,13 @@ void IniSettings::save(const QString& section, const QString& key, const QString
     const QVariant before = settings_->value(path);
     settings_->setValue(path, value);
     settings_->sync();
-    if (settings_->status() != QSettings::NoError) {
+    // QSettings writes a temporary file and renames it: the file holds either
+    // the old texts or the new ones, never half of them.
+    const bool written = settings_->status() == QSettings::NoError || [&] {
+        const QVariant onDisk = ValueOnDisk(settings_->fileName(), path);
+        return onDisk.isValid() && onDisk.toString() == value;
+    }();
+    if (!written) {
         // The write did not reach the file: take the value back, so that what
         // is read afterwards is what the file holds.
         if (before.isValid()) {

@@ -128,7 +128,7 @@ struct Session {
 TEST(SessionFuzz, EveryWindowSurvivesHostileSessions) {
     const int sessions = qEnvironmentVariableIntValue("TAVRIN_FUZZ_SESSIONS") > 0
                              ? qEnvironmentVariableIntValue("TAVRIN_FUZZ_SESSIONS")
-                             : 100;
+                             : 300;
     const QString only = qEnvironmentVariable("TAVRIN_FUZZ_WINDOW");
     for (const QString& window : RegisteredFormNames()) {
         if (!only.isEmpty() && window != only) {
