@@ -197,8 +197,23 @@ Form* Driver::openForm(const QString& name, QString& why) {
     return form;
 }
 
-Driver::Status Driver::show(const QString& target) {
+// The window of FORM.CONTROL, opened when it is not, and the control's name;
+// nullptr with the reason when either is not there.
+Form* Driver::formOf(const QString& target, QString& controlName, QString& why) {
     QString formName;
+    if (!SplitTarget(target, formName, controlName)) {
+        why = QStringLiteral("expected FORM.CONTROL, not %1").arg(target);
+        return nullptr;
+    }
+    Form* form = openForm(formName, why);
+    if (form != nullptr && !form->has(controlName)) {
+        why = QStringLiteral("no control %1 on %2").arg(controlName, formName);
+        return nullptr;
+    }
+    return form;
+}
+
+Driver::Status Driver::show(const QString& target) {
     QString controlName;
     if (!target.contains(u'.')) {
         const Form* form = app_.find(target);
@@ -213,16 +228,10 @@ Driver::Status Driver::show(const QString& target) {
         Write(out_, line);
         return Status::Going;
     }
-    if (!SplitTarget(target, formName, controlName)) {
-        return fail(QStringLiteral("expected FORM.CONTROL, not %1").arg(target));
-    }
     QString why;
-    Form* form = openForm(formName, why);
+    Form* form = formOf(target, controlName, why);
     if (form == nullptr) {
         return fail(why);
-    }
-    if (!form->has(controlName)) {
-        return fail(QStringLiteral("no control %1 on %2").arg(controlName, formName));
     }
     Write(out_, Describe(target, form->control(controlName), form->focus() == controlName));
     return Status::Going;
@@ -232,18 +241,11 @@ Driver::Status Driver::show(const QString& target) {
 // read; `save` writes the box's text to a file, as Save As would.
 Driver::Status Driver::program(const QString& verb, const QString& target,
                                const QString& argument) {
-    QString formName;
     QString controlName;
-    if (!SplitTarget(target, formName, controlName)) {
-        return fail(QStringLiteral("expected FORM.CONTROL, not %1").arg(target));
-    }
     QString why;
-    Form* form = openForm(formName, why);
+    Form* form = formOf(target, controlName, why);
     if (form == nullptr) {
         return fail(why);
-    }
-    if (!form->has(controlName)) {
-        return fail(QStringLiteral("no control %1 on %2").arg(controlName, formName));
     }
     if (form->control(controlName).kind != ControlKind::TextBox) {
         return fail(QStringLiteral("%1 is not a text box").arg(target));
@@ -316,18 +318,11 @@ Driver::Status Driver::run(const QString& rawLine) {
             verb != "spin") {
             return fail(QStringLiteral("unknown command %1").arg(verb));
         }
-        QString formName;
         QString controlName;
-        if (!SplitTarget(target, formName, controlName)) {
-            return fail(QStringLiteral("expected FORM.CONTROL, not %1").arg(target));
-        }
         QString why;
-        Form* form = openForm(formName, why);
+        Form* form = formOf(target, controlName, why);
         if (form == nullptr) {
             return fail(why);
-        }
-        if (!form->has(controlName)) {
-            return fail(QStringLiteral("no control %1 on %2").arg(controlName, formName));
         }
         const Control& c = form->control(controlName);
         busy_ = form;

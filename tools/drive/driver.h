@@ -31,6 +31,7 @@ class Driver {
     Status fail(const QString& why);
     Status afterStep();
     Form* openForm(const QString& name, QString& why);
+    Form* formOf(const QString& target, QString& controlName, QString& why);
     Status show(const QString& target);
     Status program(const QString& verb, const QString& target, const QString& argument);
 
