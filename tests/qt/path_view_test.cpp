@@ -20,11 +20,7 @@ TEST(QtPathView, ViewPathOpensOneWindowThatFitsZoomsAndGoesWithItsGenerator) {
     QtHarness h;
     h.open("frmThdMill");
     Form& f = *h.app.find("frmThdMill");
-    for (const QString typed : {"fld_TM_ZStart=.1", "fld_TM_Depth=.5", "fld_TM_Major=1",
-                                "fld_TM_ToolDia=.5", "fld_TM_Pitch=.0625", "fld_TM_Feed=5"}) {
-        h.app.userType(f, typed.section('=', 0, 0), typed.section('=', 1));
-    }
-    h.app.userClick(f, "Command1");
+    h.app.userType(f, "fld_TM_Answer", "G00 X0.75 Y0 Z0.1\r\nG03 X0.75 Y0 Z-0.5 I-0.75");
     h.app.userClick(f, "cmdViewPath");
     QPointer<PathWindow> window = h.ui.pathOf(f);
     ASSERT_NE(window, nullptr);
