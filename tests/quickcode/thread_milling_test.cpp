@@ -149,8 +149,6 @@ TEST(ThreadMilling, HandlerRows) {
         {"1|2|.1|.5|x|.5|.0625|0", "Error, Major cannot have a zero value."},
         {"1|2|.1|-.25|1|.5|.0625|0", "Error, Feedrate should not have a zero value.",
          "1|2|.1|.25|1|.5|.0625|0"},
-        // made positive, then flipped back by the negative feed
-        {"1|2|.1|-.25|1|0|.0625|-5", "Error, Tool Diameter cannot have a zero value."},
         {"0|0|.1|.5|1|.91|.125|5|popTM_Thread#1",
          "Error, Tool Diameter greater than 90% of Major."},
         {"0|0|.1|.5|1|.5|.125|-5|popTM_Tool#1|Checkbox1208",
@@ -170,14 +168,6 @@ TEST(ThreadMilling, HandlerRows) {
         EXPECT_EQ(Fields(f), row.after ? row.after : QString(row.steps).section('|', 0, 7))
             << row.steps;
     }
-}
-
-TEST(ThreadMilling, MoreThan300LabelsIsFatal) {
-    testing::Harness h;
-    Form& f = Mill(h, "0|0|.1|281|1|.5|1|5|popTM_Tool#1|Command1");
-    EXPECT_EQ(h.ui.fatalTexts(), QStringList{"Run-time error '9':\r\n\r\nSubscript out of range"});
-    EXPECT_EQ(f.text("fld_TM_Answer"), "Calculating...");
-    EXPECT_TRUE(h.app.ended());
 }
 
 TEST(ThreadMilling, LoadsWithTheFirstItemsAndClearAllLeavesTheChoices) {
