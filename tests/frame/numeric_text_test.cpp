@@ -15,24 +15,16 @@ namespace {
 
 TEST(ValOf, ReadsTheNumberAtTheFront) {
     const std::tuple<const char*, double, const char*> rows[] = {
-        {"|.E2|--7|&8", 0, "no digit at the front (8 is none after &): worth 0"},
-        {"1 000", 1000, "blanks inside are skipped"},
-        {"\t4\n2", 42, "tabs and line feeds are skipped"},
+        {"|.E2|--7|&8|&", 0, "no digit at the front (8 is none after &): worth 0"},
+        {"1 000|\t1\n000", 1000, "blanks, tabs and line feeds inside are skipped"},
         {"-.5", -0.5, "a minus sign, no whole digits"},
         {"+7", 7, "a plus sign"},
         {"1.2.3", 1.2, "a second point ends the number"},
-        {"2.5E1x", 25, "an exponent"},
-        {"1d-2", 0.01, "and d, with a negative exponent"},
-        {"&h1f", 31, "lower case h and hexadecimal letters"},
-        {"&HA", 10, "A is a hexadecimal digit"},
-        {"&H1G", 1, "G is not"},
-        {"&HFFFF", -1, "four hexadecimal digits are a 16-bit pattern"},
-        {"&H0FFFF", 65535, "five are a 32-bit pattern, whatever the value"},
-        {"&HFFFFFFFF", -1, "eight are a signed 32-bit pattern"},
+        {"2.5E1x|250d-1", 25, "an exponent after E or d, and a negative one"},
+        {"&haf|&HAFG", 175, "either case of h and of A to F; G is no hexadecimal digit"},
+        {"&HFFFF|&HFFFFFFFF|&O177777", -1, "4 or 8 hexadecimal, 6 octal digits: a signed pattern"},
+        {"&H0FFFF|&O0177777", 65535, "one digit more is a 32-bit pattern, whatever the value"},
         {"&O17|&o17|&17", 15, "octal after &O, &o or a bare &"},
-        {"&O177777", -1, "six octal digits that fit 16 bits are a 16-bit pattern"},
-        {"&O0177777", 65535, "seven are a 32-bit pattern, whatever the value"},
-        {"&", 0, "& at the end"},
     };
     for (const auto& [texts, value, guards] : rows) {
         for (const QString& text : QString(texts).split(u'|')) {
@@ -46,9 +38,8 @@ TEST(ValOf, ReadsTheNumberAtTheFront) {
 
 TEST(RoundTo, RoundsTheScaledValueHalfToEven) {
     const std::tuple<double, int, double, const char*> rows[] = {
-        {2.5, 0, 2, "a tie goes down to the even neighbour"},
-        {3.5, 0, 4, "and up"},
-        {2.675, 2, 2.68, "the scaled double decides: 267.5 exactly"},
+        {2.5, 0, 2, "a tie goes to the even neighbour, down here"},
+        {2.675, 2, 2.68, "the scaled double decides: 267.5 exactly, up to even"},
         {1.005, 2, 1, "the scaled double falls short of 100.5"},
         {-0.04, 1, 0, "a negative value rounding to zero gives +0"},
     };
@@ -65,12 +56,10 @@ TEST(NumToStr, WritesFifteenDigitsWithAndWithoutTheSignColumn) {
     const std::tuple<double, QString, QString, const char*> rows[] = {
         {-0.0, " 0", "0", "zero, and a negative zero is no negative"},
         {0.5, " .5", "0.5", "no zero before the point, unless NumToText"},
-        {-0.1, "-.1", "-0.1", "the sign of a fraction"},
-        {1.5, " 1.5", "1.5", "exponent 0 is fixed"},
+        {-0.1, "-.1", "-0.1", "the sign of a fraction; 0.1 is no zero"},
         {1.0 / 30, " 3.33333333333333E-02", "3.33333333333333E-02", "16 places: E notation"},
         {1e-15, " .000000000000001", "0.000000000000001", "15 places stay fixed"},
         {1.5e-15, " 1.5E-15", "1.5E-15", "16 places do not"},
-        {1e-16, " 1E-16", "1E-16", "one digit has no point"},
         {1e14, " 100000000000000", "100000000000000", "exponent 14 is fixed"},
         {1e15, " 1E+15", "1E+15", "exponent 15 is not, and has two digits"},
         {1234567890123445, " 1.23456789012344E+15", "1.23456789012344E+15", "ties to even"},
@@ -85,9 +74,7 @@ TEST(NumToStr, WritesFifteenDigitsWithAndWithoutTheSignColumn) {
 
 TEST(FormatNum, WritesByThePattern) {
     const std::tuple<double, const char*, QString, const char*> rows[] = {
-        {3.14159265, "####0.0######", "3.1415927", "as many places as the pattern has"},
         {2, "####0.0#####", "2.0", "\"#\" places drop trailing zeros, \"0\" places not"},
-        {1.10, "####0.0###", "1.1", "up to the last significant digit"},
         {0.1, "####0.0###", "0.1", "a \"0\" before the point forces one digit"},
         {0, "########.00", ".00", "only \"#\" before the point: no whole digit"},
         {0.5, ".00", ".50", "nothing before the point: no whole digit either"},
@@ -95,8 +82,6 @@ TEST(FormatNum, WritesByThePattern) {
         {12345678901234.5, "####0.0", "12345678901234.5", "the fifteenth digit behind the point"},
         {1.005, "########.00", "1.01", "rounds the 15-digit text, not the double"},
         {2.5, "#", "3", "halves away from zero; no point"},
-        {-2.5, "0", "-3", "away from zero below it too"},
-        {12.345675, "####0.0####", "12.34568", "a five rounds up inside the digits"},
         {9.9999999, "####0.0#####", "10.0", "the carry makes a new whole digit"},
         {0.0000005, "####0.0#####", "0.000001", "rounds up into the last place"},
         {-0.0000001, "##0.000000", "-0.000000", "the sign stays on a rounded zero"},
@@ -128,32 +113,28 @@ TEST(TextTests, IsNumberTextAndIsDigitText) {
 }
 
 TEST(StrictInt16, RefusesWhatIsNoNumber) {
-    const std::tuple<const char*, int, int, const char*> rows[] = {
+    const std::tuple<QString, int, int, const char*> rows[] = {
         {" 42 ", 42, 0, "surrounding blanks are allowed"},
         {"&H10", 16, 0, "hexadecimal is a number"},
         {"1E2", 100, 0, "an exponent is part of the number"},
-        {"", 0, 13, "an empty text is no number"},
-        {"4x", 0, 13, "the whole text must be read"},
-        {"&H", 0, 13, "no hexadecimal digit"},
-        {"1E", 0, 13, "an exponent letter without digits is left over"},
+        {"|4x|&H|1E", 0, 13, "empty, not all read, no hexadecimal digit, a bare exponent"},
         {"32768", 0, 6, "beyond 16 bits"},
     };
-    for (const auto& [text, value, error, guards] : rows) {
-        int got = 0;
-        EXPECT_EQ(ErrorOf([&] { got = StrictInt16(text); }), error) << text << ": " << guards;
-        EXPECT_EQ(got, value) << text << ": " << guards;
+    for (const auto& [texts, value, error, guards] : rows) {
+        for (const QString& text : texts.split(u'|')) {
+            int got = 0;
+            EXPECT_EQ(ErrorOf([&] { got = StrictInt16(text); }), error) << text << ": " << guards;
+            EXPECT_EQ(got, value) << text << ": " << guards;
+        }
     }
 }
 
-TEST(CheckedArithmetic, RaisesTheNumberedFailureAtTheFailingStepOrRoundsHalfToEven) {
+TEST(CheckedArithmetic, RaisesTheNumberedFailureAndItsTextOrRoundsHalfToEven) {
     const Real zero = 0;
     std::int16_t counter = 32767;
     const std::tuple<const char*, int, int> rows[] = {
         {"1 / 0", ErrorOf([&] { Real(1) / zero; }), 11},
         {"0 / 0 is an invalid operation", ErrorOf([&] { zero / zero; }), 6},
-        {"1e308 * 10", ErrorOf([] { Real(1e308) * 10; }), 6},
-        {"Sqr(-1)", ErrorOf([] { Sqr(-1); }), 5},
-        {"Log(0)", ErrorOf([] { Log(0); }), 5},
         {"Exp(1000)", ErrorOf([] { Exp(1000); }), 6},
         {"(-8) ^ 0.5", ErrorOf([] { Power(-8, 0.5); }), 5},
         {"0 ^ -1", ErrorOf([] { Power(0, -1); }), 11},
@@ -167,21 +148,16 @@ TEST(CheckedArithmetic, RaisesTheNumberedFailureAtTheFailingStepOrRoundsHalfToEv
     for (const auto& [what, got, expected] : rows) {
         EXPECT_EQ(got, expected) << what;
     }
-}
-
-TEST(CheckedArithmetic, KeepsTheOrderOfOperationsAsWritten) {
-    const Real a = 0.1;
-    EXPECT_EQ(((a + 0.2) + 0.3).value(), 0.6000000000000001);  // not regrouped
-    EXPECT_EQ((a + (Real(0.2) + 0.3)).value(), 0.6);
-    const Real x = 1.0 + 1e-8;
-    const Real p = x * x;
-    EXPECT_EQ((x * x - p).value(), 0.0);  // no fused multiply-add
-}
-
-TEST(CheckedArithmetic, FatalTextNamesNumberAndText) {
     EXPECT_EQ(RunTimeError(ErrorNumber::SubscriptOutOfRange).fatalText() + '|' +
                   RunTimeError(ErrorNumber::DivisionByZero).text(),
               "Run-time error '9':\r\n\r\nSubscript out of range|Division by zero");
+}
+
+TEST(CheckedArithmetic, KeepsTheOrderOfOperationsAsWritten) {
+    EXPECT_EQ(((Real(0.1) + 0.2) + 0.3).value(), 0.6000000000000001);  // not regrouped
+    const Real x = 1.0 + 1e-8;
+    const Real p = x * x;
+    EXPECT_EQ((x * x - p).value(), 0.0);  // no fused multiply-add
 }
 
 }  // namespace

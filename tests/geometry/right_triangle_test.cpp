@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "frame/numeric_text.h"
 #include "geometry/right_triangle.h"
 #include "tests/support/harness.h"
@@ -9,17 +11,9 @@ namespace {
 
 using testing::Harness;
 
-struct SolverRow {
-    int index;
-    double one;
-    double two;
-    int decPlace;
-    const char* solved;  // a, b, c, Angle B, Angle C as the answer writes them
-    const char* guards;
-};
-
 TEST(RightTriangleSolver, OneRowPerCaseAndRoundingEdge) {
-    const SolverRow rows[] = {
+    // Case, known values, places; a, b, c, Angle B, Angle C as the answer writes them.
+    const std::tuple<int, double, double, int, const char*, const char*> rows[] = {
         {0, 5, 3, 4, " 5 3 4 36.869898 53.130102", "a & b: B by arc sine, C from B"},
         {1, 2, 1.15470125978212, 4, " 2.3094 2 1.15470125978212 59.999985 30.000015",
          "the arc tangent's constant to its last digit"},
@@ -31,12 +25,12 @@ TEST(RightTriangleSolver, OneRowPerCaseAndRoundingEdge) {
         {7, 35, 4, 4, " 4.8831 4 2.8008 55 35", "C & b"},
         {8, 35, 4, 4, " 6.9738 5.7126 4 55 35", "C & c"},
     };
-    for (const SolverRow& r : rows) {
-        const RightTriangle t = SolveRightTriangle(r.index, r.one, r.two, r.decPlace);
+    for (const auto& [index, one, two, decPlace, solved, guards] : rows) {
+        const RightTriangle t = SolveRightTriangle(index, one, two, decPlace);
         EXPECT_EQ(
             NumToStr(t.a) + NumToStr(t.b) + NumToStr(t.c) + NumToStr(t.angleB) + NumToStr(t.angleC),
-            r.solved)
-            << r.guards;
+            solved)
+            << guards;
     }
 }
 
@@ -49,23 +43,18 @@ TEST(RightTriangleSolver, TheElevenAnswerLines) {
               "Inscribed CircleØ=  2.0553\r\nCircumscribed CircleØ=  7.25");
 }
 
-const char* const kNotPositive = "Error, Values must be greater than zero";
-const char* const kNinety = "Error, Angle equal  or greater than 90 degrees";
-
-struct HandlerRow {
-    QStringList steps;
-    const char* said;  // the message, or the answer's fourth line
-};
-
 TEST(RightTriangle, HandlerRows) {
-    const HandlerRow rows[] = {
+    const char* const notPositive = "Error, Values must be greater than zero";
+    // The steps before Calculate; the message, or the answer's fourth line.
+    const std::pair<QStringList, const char*> rows[] = {
         // an empty field is worth 0 and meets the sign test first
-        {{"txtSideOne=", "txtSideTwo=3"}, kNotPositive},
-        {{"txtSideOne=5", "txtSideTwo=0"}, kNotPositive},
+        {{"txtSideOne=", "txtSideTwo=3"}, notPositive},
+        {{"txtSideOne=5", "txtSideTwo=0"}, notPositive},
         {{"txtSideOne=3", "txtSideTwo=3"}, "Error, Side a cannot be less than or equal to Side b."},
         {{"popSides#2", "txtSideOne=5", "txtSideTwo=5"},
          "Error, Side a cannot be less than or equal to Side c."},
-        {{"popSides#3", "txtSideOne=90", "txtSideTwo=1"}, kNinety},
+        {{"popSides#3", "txtSideOne=90", "txtSideTwo=1"},
+         "Error, Angle equal  or greater than 90 degrees"},
         // the packed angle is tested as typed and converted after
         {{"popSides#5", "chkDMS", "txtSideOne=89.6", "txtSideTwo=1"}, "Angle B=  90°  0'  0\""},
         {{"popSides#3", "chkDMS", "txtSideOne=30.3", "txtSideTwo=10"}, "Angle B= 30°  30'  0\""},
@@ -74,13 +63,13 @@ TEST(RightTriangle, HandlerRows) {
         // an angle of 1 passes; the area overflows after "Calculating..."
         {{"popSides#3", "txtSideOne=1", "txtSideTwo=1E304"}, "Run-time error '6':\r\n\r\nOverflow"},
     };
-    for (const HandlerRow& row : rows) {
+    for (const auto& [steps, expected] : rows) {
         Harness h;
-        Form& f = h.run("frmTrig", row.steps + QStringList{"Command1"});
+        Form& f = h.run("frmTrig", steps + QStringList{"Command1"});
         const QString said = h.lastBox();
         const QString box = f.text("field2747");
         const bool answered = said.isEmpty();
-        EXPECT_EQ(answered ? box.section("\r\n", 3, 3) : said, row.said) << row.steps.join(' ');
+        EXPECT_EQ(answered ? box.section("\r\n", 3, 3) : said, expected) << steps.join(' ');
         EXPECT_EQ(h.ui.shown.size(), answered ? 0U : 1U);
         EXPECT_EQ(f.control("field2747").visible, answered);
         EXPECT_EQ(f.control("txtSideOne").visible, !answered);
@@ -89,7 +78,7 @@ TEST(RightTriangle, HandlerRows) {
     }
 }
 
-TEST(RightTriangle, TheCaptionsNameTheChosenPair) {
+TEST(RightTriangle, CaptionsNameTheChosenPairAndDoneGivesBackTheEntries) {
     Harness h;
     Form& f = h.open("frmTrig");
     for (int i = 8; i >= 0; --i) {
@@ -99,24 +88,12 @@ TEST(RightTriangle, TheCaptionsNameTheChosenPair) {
         EXPECT_EQ(f.caption("lblSideOne") + f.caption("lblSideTwo"),
                   pair.value(0).right(1) + pair.value(1).right(1));
     }
-}
-
-TEST(RightTriangle, DoneGivesBackTheEntriesTheOtherDoneCloses) {
-    Harness h;
-    Form& f = h.run("frmTrig", {"txtSideOne=5", "txtSideTwo=3", "Command1"});
-    h.run("frmTrig", {"Command3"});
+    h.run("frmTrig", {"txtSideOne=5", "txtSideTwo=3", "Command1", "Command3"});
     EXPECT_FALSE(f.control("field2747").visible);
     EXPECT_TRUE(f.control("Command1").visible);
-    EXPECT_EQ(f.text("field2747"), "");
-    EXPECT_EQ(f.text("txtSideOne") + f.text("txtSideTwo"), "53");
+    EXPECT_EQ(f.text("field2747") + f.text("txtSideOne") + f.text("txtSideTwo"), "53");
     h.run("frmTrig", {"Command4"});
     EXPECT_EQ(h.app.find("frmTrig"), nullptr);
-}
-
-TEST(TrigChooser, ShowsEitherTriangleWindowAndStaysOpen) {
-    Harness h;
-    h.run("frmTrigMain", {"Command1", "Command2"});
-    EXPECT_TRUE(h.app.find("frmTrig") && h.app.find("frmOblique") && h.app.find("frmTrigMain"));
 }
 
 }  // namespace
