@@ -229,6 +229,8 @@ TEST(QtWindows, HomeStandsAtItsStoredPlaceAndTheOthersBesideIt) {
     EXPECT_TRUE(closed.isNull()) << "an unloaded window's view goes with it";
     home->move(home->logicalDpiX() * 23, home->logicalDpiY());  // 33120 and 1440 twips
     EXPECT_TRUE(form.left() == 33120 && form.top() == 1440);
+    home->close();
+    EXPECT_TRUE(home->isVisible()) << "its place overflowed on closing: the logic kept it";
 }
 
 // Presses a button of the next box when it comes, and keeps its title and text.
