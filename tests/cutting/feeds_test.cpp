@@ -9,12 +9,13 @@
 namespace tavrin {
 namespace {
 
-// A fresh window given the job, the row's steps and Calculate: "box shown|answer".
-void ExpectRows(const char* window, const QStringList& job, const char* shown,
+// A fresh window, "earlier" in the answer, the job, the row's steps, Calculate:
+// "box shown|answer".
+void ExpectRows(const char* window, const QString& shown, const QStringList& job,
                 std::initializer_list<std::pair<QStringList, QString>> rows) {
     for (const auto& [steps, answer] : rows) {
-        EXPECT_EQ(testing::Outcome(window, job + steps << "Command1", shown), answer)
-            << steps.join(' ');
+        const QStringList all = QStringList{shown + "=earlier"} + job + steps << "Command1";
+        EXPECT_EQ(testing::Outcome(window, all, shown), answer) << steps.join(' ');
     }
 }
 
@@ -34,9 +35,8 @@ TEST(FeedSolver, EachWayAndEachSpeed) {
 }
 
 TEST(IpmIpr, MessagesLeaveTheAnswerAndTheCaptionsFollow) {
-    ExpectRows("frmIpmIpr",
-               {"lblAns=earlier", "txtCutter=.5", "txtChipLoad=1", "txtFlutes=2", "txtSfm2=100"},
-               "lblAns",
+    ExpectRows("frmIpmIpr", "lblAns",
+               {"txtCutter=.5", "txtChipLoad=1", "txtFlutes=2", "txtSfm2=100"},
                {
                    {{"txtSfm2="}, "You must fill all four data fields.|earlier"},
                    {{"txtFlutes=0"}, "Error, Values must be greater than zero|earlier"},
@@ -54,8 +54,7 @@ TEST(IpmIpr, MessagesLeaveTheAnswerAndTheCaptionsFollow) {
 TEST(Cusp, CalculateRows) {
     const QString fill =
         "Error, Please fill both data fields with values greater than zero.|earlier";
-    ExpectRows("frmCusp", {"txtCuspAns=earlier", "txtRadCusp=.25", "txtStepOrCusp=.1"},
-               "txtCuspAns",
+    ExpectRows("frmCusp", "txtCuspAns", {"txtRadCusp=.25", "txtStepOrCusp=.1"},
                {
                    {{}, "|Cusp Height=  .0051"},
                    {{"optStep", "txtStepOrCusp=.005"}, "|Step Over=  .0995"},
@@ -79,12 +78,12 @@ TEST(ToolRadiusSolver, TheTenLinesMillCrosswise) {
 }
 
 TEST(ToolRadius, CalculateRows) {
-    const QStringList job{"Field1230=earlier", "txtTrc1=.1", "txtTrc2=30"};
+    const QStringList job{"txtTrc1=.1", "txtTrc2=30"};
     EXPECT_TRUE(testing::Outcome("frmTRC",
                                  job + QStringList{"chkDMStrc", "txtTrc2=30.3", "Command1"},
                                  "Field1230")
                     .startsWith("|***Lathe***\r\nX=  .0428\r\nZ=  .0727\r\n"));  // 30.5 degrees
-    ExpectRows("frmTRC", job, "Field1230",
+    ExpectRows("frmTRC", "Field1230", job,
                {
                    {{"txtTrc1="}, "Error, Please fill both data fields.|earlier"},
                    {{"txtTrc1=0"}, "Error, Values must be greater than zero.|earlier"},
@@ -100,7 +99,7 @@ TEST(ToolRadius, CalculateRows) {
 TEST(ArcCenter, CalculateRows) {
     const QString pairs = "|Use of the following pairs depending on G02 or G03\r\n";
     ExpectRows(
-        "frmIK", {"txtansik=earlier", "txtXik=.1", "txtZik=.2", "txtradik=.25"}, "txtansik",
+        "frmIK", "txtansik", {"txtXik=.1", "txtZik=.2", "txtradik=.25"},
         {
             {{"txtXik=.25", "optMillIK"}, pairs + "I=  .195 J=  .245\r\nI=  .005 J=  .005"},
             {{"txtXik=.26"}, "Error, Distance values cannot be greater than radius.|earlier"},
