@@ -51,8 +51,9 @@ TEST(Weight, CalculateRows) {
 TEST(Weight, ShapesSetTheSizeCaptionAndHeight) {
     testing::Harness h;
     Form& f = h.open("frmWeight");
-    EXPECT_EQ(f.text("txtCost"), "0");  // the other starting texts show in the answers
-    QStringList shapes;                 // the size caption, "+" for each height control shown
+    // The other starting texts show in the answers.
+    EXPECT_EQ(f.text("txtCost") + f.text("popStockType"), "0Round Stock");
+    QStringList shapes;  // the size caption, "+" for each height control shown
     for (const int index : {1, 2, 3, 4, 0}) {
         h.run("frmWeight", {QString("popStockType#%1").arg(index)});
         shapes << f.caption("Field1667") + (f.control("txtHeightW").visible ? "+" : "") +
