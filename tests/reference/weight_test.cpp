@@ -51,8 +51,8 @@ TEST(Weight, CalculateRows) {
 TEST(Weight, ShapesSetTheSizeCaptionAndHeight) {
     testing::Harness h;
     Form& f = h.open("frmWeight");
-    // The other starting texts show in the answers.
-    EXPECT_EQ(f.text("txtCost") + f.text("popStockType"), "0Round Stock");
+    EXPECT_EQ(f.text("txtThruW") + f.text("txtQtyW") + f.text("txtCost") + f.text("popStockType"),
+              "010Round Stock");
     QStringList shapes;  // the size caption, "+" for each height control shown
     for (const int index : {1, 2, 3, 4, 0}) {
         h.run("frmWeight", {QString("popStockType#%1").arg(index)});
