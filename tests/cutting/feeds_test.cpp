@@ -105,6 +105,7 @@ TEST(ArcCenter, CalculateRows) {
             {{"txtXik=.26"}, "Error, Distance values cannot be greater than radius.|earlier"},
             {{"txtZik=.25"}, pairs + "I=  .2456 K=  .3956\r\nI=  .1456 K=  .1456"},
             {{"txtZik=0"}, "Run-time error '11':\r\n\r\nDivision by zero|Calculating..."},
+            {{"txtZik=", "txtXik="}, "Run-time error '6':\r\n\r\nOverflow|Calculating..."},
             {{"txtXik=-1"},  // a radius too small for the distances
              "Run-time error '5':\r\n\r\nInvalid procedure call or argument|Calculating..."},
         });
