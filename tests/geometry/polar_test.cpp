@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "geometry/polar.h"
-#include "tests/support/harness.h"
+#include "tests/geometry/calculated.h"
 
 // Expected figures worked in doubles, step by step, apart from the code.
 namespace tavrin {
@@ -9,7 +9,7 @@ namespace {
 
 TEST(PolarSolver, QuadrantsOfRectangularToPolar) {
     const std::tuple<double, double, double, double, double> rows[] = {
-        {1, 1, 1.4142135623730927, 44.99999999999996, -315.00000000000006},
+        {1, 2, 2.2360679774997823, 63.43494882292198, -296.56505117707803},  // dx / dy, not dx * dy
         {-1, -1, -1.4142135623730927, -135.00000000000006, 224.99999999999994},
         {0, -2, -2, -90, 270},
         {-2, 0, -2, 180, -180},
@@ -25,27 +25,22 @@ TEST(PolarSolver, QuadrantsOfRectangularToPolar) {
     }
 }
 
-TEST(PolarSolver, AnswerTexts) {
-    EXPECT_EQ(PolarToRectangular(2, 30, -1, 1, 2), "X=  .73\r\nY=  2");
-    EXPECT_EQ(PolarAnswer({-1.4142135623730927, -135.00000000000006, 224.99999999999994}, 4),
-              "Radius=  1.4142\r\nAngle DD= -135.000000\r\nAngle DMS= -135°  0'  0\"\r\n"
-              "[ Angle DD= 225.000000 ]\r\n[ Angle DMS=  225°  0'  0\" ]");
-}
-
 TEST(Polar, HandlerRows) {
     const std::pair<QStringList, const char*> rows[] = {
-        {{"txtPolarInput1=2", "txtPolarInput2=30.3", "chkDMSpolar"}, "X=  1.7233"},
-        {{"popPolar#1", "txtPolarInput1=4", "txtPolarInput2=30.3", "txtXPolarPresent=1",
+        {{"txtPolarInput1=2", "txtPolarInput2=30.3", "txtXPolarPresent=-1", "txtYPolarPresent=1",
+          "chkDMSpolar"},
+         "X=  .7233\r\nY=  2.0151"},
+        // the third quadrant of the table above, and no DMS in this mode
+        {{"popPolar#1", "txtPolarInput1=0", "txtPolarInput2=0", "txtXPolarPresent=1",
           "txtYPolarPresent=1", "chkDMSpolar"},
-         "Radius=  29.4532"},  // no DMS in this mode
+         "Radius=  1.4142\r\nAngle DD= -135.000000\r\nAngle DMS= -135°  0'  0\"\r\n"
+         "[ Angle DD= 225.000000 ]\r\n[ Angle DMS=  225°  0'  0\" ]"},
         {{"txtPolarInput1=2", "txtPolarInput2=30", "txtYPolarPresent="},
          "Error, Please fill all data fields."},
         {{"txtPolarInput1=2", "txtPolarInput2=3E1"}, "Error, Invalid data entered"},
     };
     for (const auto& [steps, shown] : rows) {
-        testing::Harness h;
-        Form& f = h.run("frmPolar", steps + QStringList{"Command1"});
-        EXPECT_EQ(h.lastBox() + f.text("txtPolarAns").section("\r\n", 0, 0), shown);
+        EXPECT_EQ(testing::Calculated("frmPolar", steps, {"txtPolarAns"}), shown);
     }
 }
 

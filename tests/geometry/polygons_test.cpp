@@ -7,17 +7,14 @@
 namespace tavrin {
 namespace {
 
-TEST(PolygonsSolver, EachShapeFromEachSize) {
+TEST(PolygonsSolver, TheSizesNoHandlerRowReaches) {
     const std::tuple<int, int, double, double, double> rows[] = {
         {SquareShape, AcrossFlats, 1.414214, 1, 1},
-        {SquareShape, AcrossPoints, 1, .707107, .707107},
-        {SquareShape, SizeOfFlat, 1.414214, 1, 1},
         {HexagonShape, AcrossFlats, 1.154701, 1, .57735},  // the flat from the tangent
         {HexagonShape, AcrossPoints, 1, .866025, .5},
         {HexagonShape, SizeOfFlat, 2, 1.732051, 1},
         {OctagonShape, AcrossFlats, 1.082392, 1, .414214},
         {OctagonShape, AcrossPoints, 1, .92388, .382683},
-        {OctagonShape, SizeOfFlat, 2.613126, 2.414214, 1},
     };
     for (const auto& [shape, known, points, flats, flat] : rows) {
         const PolygonSizes s = SolvePolygon(shape, known, 1, 6);
@@ -33,7 +30,6 @@ TEST(Polygons, HandlerRows) {
         {{"cboShape#2", "txtPol3=1"}, " 2.6131| 2.4142|1"},
         // a square copies the typed text between flats and flat
         {{"txtPol3=2x"}, " 2.8284|2x|2x"},
-        {{"cboShape#1", "txtPol1=abc"}, "abc| 0| 0"},
         {{"txtPol1=1", "txtPol3= "}, "Please fill only one data field.1|| "},
         {{}, "Please fill one data field.||"},
     };
@@ -47,11 +43,8 @@ TEST(Polygons, HandlerRows) {
 TEST(Polygons, TheChosenShapeAloneIsDrawn) {
     testing::Harness h;
     Form& f = h.run("frmPolygons", {"cboShape#1"});
-    EXPECT_EQ(QString("%1%2%3")
-                  .arg(f.control("imgSquare").visible)
-                  .arg(f.control("imgHex").visible)
-                  .arg(f.control("imgOct").visible),
-              "010");
+    EXPECT_TRUE(!f.control("imgSquare").visible && f.control("imgHex").visible &&
+                !f.control("imgOct").visible);
 }
 
 }  // namespace
