@@ -12,24 +12,19 @@ TEST(DmsText, PacksAndUnpacksDegreesMinutesSeconds) {
     const auto toDd = DmsTextToDd;
     const auto toDms = DdToDmsText;
     const std::tuple<QString (*)(const QString&), const char*, QString, const char*> rows[] = {
-        {toDd, "22.0322", " 22.056111", "minutes and seconds, rounded to six places"},
         {toDd, "22.3", " 22.5", "one digit is tens of minutes"},
         {toDd, "22.032", " 22.055556", "three digits end in tens of seconds"},
-        {toDd, "22.03", " 22.05", "two digits add nothing"},
         {toDd, "22.", " 22", "a point at the end: degrees only"},
         {toDd, "1e2", " 100", "no point: the whole text is read"},
         {toDd, "22.6000", " 23", "minutes above 59 stand"},
-        {toDd, "22.032299", " 22.056111", "digits behind the seconds are ignored"},
+        {toDd, "22.032299", " 22.056111", "minutes and seconds to six places, the rest ignored"},
         {toDd, "22.3 ", " 22.05", "the tail is trimmed to measure, the 0 goes at the very end"},
         {toDd, "-22.3", "-21.5", "the sign stays with the degrees"},
-        {toDd, ".3", " .5", "no degree digits"},
         {toDms, "22.056111", "22°  3'  22\"", "seconds rounded; NumToStr's blank after each blank"},
-        {toDms, "22", "22°  0'  0\"", "no point: the text is the degrees"},
         {toDms, "22.", "22°  0'  0\"", "a point at the end is dropped"},
         {toDms, " .5", "0°  30'  0\"", "blank degree digits are 0"},
-        {toDms, "-22.5", "-22°  30'  0\"", "the sign as typed"},
         {toDms, "10.99999", "10°  59'  60\"", "no carry of 60 seconds"},
-        {toDms, "007.25", "007°  15'  0\"", "the degrees as typed"},
+        {toDms, "-007.25", "-007°  15'  0\"", "the degrees and their sign as typed"},
         {toDms, " 5 .5", "5°  30'  0\"", "blanks around the degrees are trimmed"},
         {toDms, "1.3499999999999999", "1°  21'  0\"", "minutes split by their 15-digit text"},
     };
@@ -40,7 +35,6 @@ TEST(DmsText, PacksAndUnpacksDegreesMinutesSeconds) {
 
 TEST(DegreeHelpers, UseTheShortPiInTheirOrderAndFailAtThePoles) {
     const std::tuple<const char*, double, double> rows[] = {
-        {"Pi has fifteen digits", Pi().value(), 3.14159265358979},
         {"Negate", Negate(2.5).value(), -2.5},
         {"Square", Square(1.5).value(), 2.25},
         {"SquareOfText reads by ValOf", SquareOfText("3in").value(), 9},
@@ -50,7 +44,6 @@ TEST(DegreeHelpers, UseTheShortPiInTheirOrderAndFailAtThePoles) {
         {"TanDeg(90) is huge, no failure", TanDeg(90).value(), 618986325617924.2},
         {"AtanDeg uses its own constant", AtanDeg(1).value(), 44.999999999999986},
         {"ArcSinDeg(0.5)", ArcSinDeg(0.5).value(), 30.000000000000032},
-        {"ArcCosDeg(0)", ArcCosDeg(0).value(), 90.00000000000009},
         {"ArcCosDeg(-0.5)", ArcCosDeg(-0.5).value(), 120.00000000000011},
         {"ArcSinDeg(1) divides by zero", ErrorOf([] { ArcSinDeg(1); }), 11},
         {"ArcCosDeg(-1) divides by zero", ErrorOf([] { ArcCosDeg(-1); }), 11},

@@ -17,12 +17,11 @@ TEST(GridSolver, RowsBackAndForthOnRoundedPositions) {
               " 1] X0.0Y0.0\r\n 2] X1.0Y0.0\r\n 3] X2.0Y0.0\r\n 4] X2.0Y1.0\r\n"
               " 5] X1.0Y1.0\r\n 6] X0.0Y1.0\r\n");
     EXPECT_TRUE(Grid(3, 3).endsWith(" 7] X0.0Y2.0\r\n 8] X1.0Y2.0\r\n 9] X2.0Y2.0\r\n"));
-    EXPECT_TRUE(Grid(2, 1, -1).startsWith(" 1] X0.0Y0.0\r\n 2] X-1.0Y0.0\r\n"));
-    // .1 + .14 rounds to .2: each hole builds on the rounded one before
-    EXPECT_TRUE(Grid(3, 1, .14, 1).endsWith(" 2] X0.1Y0.0\r\n 3] X0.2Y0.0\r\n"));
+    // -.1 - .14 rounds to -.2: each hole builds on the rounded one before
+    EXPECT_TRUE(Grid(3, 1, -.14, 1).endsWith(" 2] X-0.1Y0.0\r\n 3] X-0.2Y0.0\r\n"));
     EXPECT_EQ(Grid(2.5, 2).count("\r\n"), 8);  // five holes, written a pair of rows at a time
     EXPECT_EQ(Grid(2, 1, 0, 4, true), "X0.0Y0.0\r\nX0.0Y0.0\r\n");
-    EXPECT_EQ(Grid(0, 5), "");
+    EXPECT_EQ(Grid(3, 0).count("\r\n"), 6);      // no hole, still a pair of rows
     EXPECT_THROW(Grid(200, 200), RunTimeError);  // 40000 holes overflow 16 bits
 }
 
