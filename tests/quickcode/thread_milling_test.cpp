@@ -72,14 +72,12 @@ TEST(ThreadMillSolver, OutcomeRows) {
         // Ten lines beside the turns
         {{0, 0, .1, .4375, 1, .5, .125, 5, 1, 0, false}, "14 lines", "D / P 3.5: 4.5 turns to 4"},
         {{0, 0, .1, .5625, 1, .5, .125, 5, 1, 0, false}, "16 lines", "D / P 4.5: 5.5 turns to 6"},
-        {{0, 0, .1, .5, 1, 3, .125, 5, 0, 0, false}, "12 lines", "no tool limit outside"},
         {{0, 0, .1, .5, 1, .9, .125, 5, 0, 1, false}, "12 lines", "a tool of 90% passes"},
         {{0, 0, .1, .5, 1, .9000001, .125, 5, 1, 1, true}, kTooLarge, "above 90%"},
         {{0, 0, .1, 281, 1, .5, 1, 5, -1, 0, false}, "", "a typed tool: twelve labels, no program"},
         {{0, 0, .1, 280, 1, .5, 1, 5, 1, 0, false}, "291 lines", "D / P 280: up to label 300"},
-        {{0, 0, .1, 281, 1, .5, 1, 5, 1, 0, false}, "Subscript out of range", "label 301"},
-        {{0, 0, .1, 281, 1, .5, 1, 5, 0, 0, true}, "12 lines", "the hob mill: twelve labels"},
-        {{0, 0, .1, 281, 1, .95, 1, 5, 1, 1, false}, "Subscript out of range", "labels first"},
+        {{0, 0, .1, 281, 1, 3, 1, 5, 0, 0, true}, "12 lines", "hob: 12 labels, no limit outside"},
+        {{0, 0, .1, 281, 1, .95, 1, 5, 1, 1, false}, "Subscript out of range", "label 301, first"},
         {{0, 0, .1, 281, 1E308, 1E308, 1, 5, 1, 0, false}, "Overflow", "derived texts first"},
         {{0, 0, .1, -289, 1, .5, 1, -5, 1, 0, false}, "300 lines", "a flipped depth: label 300"},
         {{0, 0, .1, -290, 1, .5, 1, -5, 1, 0, false}, "Subscript out of range", "behind the run"},
@@ -90,17 +88,14 @@ TEST(ThreadMillSolver, OutcomeRows) {
         BlockLabels labels;
         EXPECT_EQ(Outcome(row.job, labels), row.outcome) << row.fault;
     }
-    BlockLabels labels;
-    // A typed thread type writes no program, but the labels are written.
-    EXPECT_EQ(Outcome({0, 0, .1, .5, 1, 3, .125, 5, 0, -1, true}, labels), "");
-    EXPECT_EQ(labels[12], "N65 ");
 }
 
 TEST(ThreadMillSolver, TheLabelTableCarriesOverBetweenRuns) {
     BlockLabels labels;
-    // 17 turns, numbered: labels 1 to 36 written; then the hob mill empties 1 to 12.
+    // 17 turns, numbered: labels 1 to 36 written; then a typed thread type
+    // writes no program but empties 1 to 12 all the same.
     ThreadMillProgram({0, 0, .1, 1, 1, .5, .0625, 5, 1, 0, true}, labels);
-    ThreadMillProgram({0, 0, .1, 1, 1, .5, .0625, 5, 0, 0, false}, labels);
+    EXPECT_EQ(ThreadMillProgram({0, 0, .1, 1, 1, .5, .0625, 5, 0, -1, false}, labels).program, "");
     // A depth of -1 writes Int(-16 + 20) = 4 labels; from label 13 on the
     // turns take the numbers of the first run.
     const QStringList lines =
@@ -175,8 +170,7 @@ TEST(ThreadMilling, LoadsWithTheFirstItemsAndClearAllLeavesTheChoices) {
     Form& f = h.open("frmThdMill");
     EXPECT_EQ(f.title() + f.text("popTM_Tool") + f.text("popTM_Thread"),
               "Thread MillingHob-MillExt.");
-    Mill(h, "0|0|.1|.5|1|.5|.125|5|popTM_Tool#1|popTM_Thread#1|Checkbox1208|Command1|Command2");
-    EXPECT_EQ(Fields(f) + f.text("fld_TM_Answer"), "|||||||");
+    h.run("frmThdMill", {"popTM_Tool#1", "popTM_Thread#1", "Command2"});
     EXPECT_EQ(f.text("popTM_Tool") + f.text("popTM_Thread"), "Single Pt.Int.");
 }
 
