@@ -6,10 +6,6 @@
 #include <QTemporaryDir>
 
 #include "inspection/ball_sub.h"
-#include "inspection/dove_tails.h"
-#include "inspection/gage_pin.h"
-#include "inspection/sine_plate.h"
-#include "inspection/tapers.h"
 #include "inspection/two_ball.h"
 #include "tests/support/harness.h"
 
@@ -18,13 +14,10 @@ namespace {
 
 using testing::Harness;
 
-TEST(BenchSolvers, SinePlateGagePinBallSubstitution) {
-    EXPECT_EQ(*SinePlateAnswer(true, 5, 2.3, 4),
-              "Incline of Angle DD=  27.387108\r\nIncline of Angle DMS= 27°  23'  14\"");
-    EXPECT_TRUE(SinePlateAnswer(true, 5, 2.978, 4)->endsWith("36°  33'  20\""));  // from 6 places
-    EXPECT_EQ(GagePinInDiamond(-1, 2).value(), 0.8944271909999159);
+const QString kHint = QStringLiteral("enter 22° 3' 22\" as 22.0322");
+
+TEST(BenchSolvers, BallSubstitution) {
     const std::tuple<double, double, int, int, const char*> rows[] = {
-        {29, .3, 1, 2, " .38\r\nNew Distance= -.0828"},  // four places for the small ball
         {29, .3, 2, 2, " .38\r\nNew Distance=  .68"},
         {30, 0, 2, 4, " .375\r\nNew Distance= No distance entered."},
         {30, .3, 0, 4, " .375\r\nNew Distance= "},  // a typed mode: no distance
@@ -34,7 +27,7 @@ TEST(BenchSolvers, SinePlateGagePinBallSubstitution) {
     }
 }
 
-TEST(BenchSolvers, TwoBallsTapersDoveTails) {
+TEST(BenchSolvers, TwoBalls) {
     EXPECT_EQ(BallToBallAnswer(.25, .5, 1),
               "DD=  8.213211\r\nDMS= 8°  12'  48\"\r\nIncluded Angle DD=  16.426421\r\n"
               "Included Angle DMS= 16°  25'  35\"");
@@ -43,30 +36,6 @@ TEST(BenchSolvers, TwoBallsTapersDoveTails) {
               "Sharp Corner Dia.=  .8165\r\nIncluded Angle DD=  91.169383\r\n"
               "Included Angle DMS= 91°  10'  10\"");
     EXPECT_EQ(BallToBallAnswer(.25, .75, .1), "Invalid Input");  // below -1
-    EXPECT_EQ(TaperAnswer(0, .5, .625, 4, 4),
-              "Large End=  .7083\r\nIncluded Angle DMS= 2°  59'  1\"\r\nAngle per Side DMS= 1°  "
-              "29'  30\"\r\nIncluded Angle DD=  2.98348\r\nAngle per Side DD=  1.49174");
-    EXPECT_EQ(TaperAnswer(5, .75, 0, 0, 4),
-              "Included Angle DMS= 3°  34'  47\"\r\nAngle Per Side DMS= 1°  47'  24\"\r\n"
-              "Included Angle DD=  3.579822\r\nAngle Per Side DD=  1.789911");
-    const std::tuple<int, double, double, double, int, const char*> rows[] = {
-        {0, .5, .625, 4, 2, "Large End=  .71\r\nIncluded Angle DMS= 2°  59'  1\""},  // DecPlace
-        {3, .5, .7083, 4, 4,
-         "Taper per Foot=  .6249\r\nIncluded Angle DMS= 2°  58'  59\"\r\n"
-         "Angle per Side DMS=1°  29'  29\"\r\nIncluded Angle DD=  2.983004\r\n"
-         "Angle per Side DD=  1.491502"},
-    };
-    for (const auto& [taperCase, one, two, three, places, start] : rows) {
-        EXPECT_TRUE(TaperAnswer(taperCase, one, two, three, places).startsWith(start)) << start;
-    }
-    // Dove tails at angle 30 with a roll of .25.
-    const std::tuple<DoveTail, double, double, double, const char*> dove[] = {
-        {{true, false, false}, 2, .1, 2.798482755730144, "riser adds over rolls"},
-        {{false, false, false}, 2.683, .1, 2.1154573519457056, "riser subtracts for the corner"},
-    };
-    for (const auto& [kind, s, p, out, what] : dove) {
-        EXPECT_EQ(DoveTailSolve(kind, s, 30, .25, p).value(), out) << what;
-    }
 }
 
 struct Window {
@@ -102,22 +71,22 @@ TEST(BenchWindows, CalculateRows) {
     const QString overflow = "Run-time error '6':\r\n\r\nOverflow|Calculating...$";
     const Row rows[] = {
         {kSine, {"AngleIncline=30.3", "chkDMSsine"}, "|Gage Block Height=  2.5377$"},
-        {kSine,
-         {"AngleIncline=2.3", "chkDMSsine", "optHeight"},
-         "|Incline of Angle DD=  27.387108\r\n"},
+        {kSine,  // a height is never DMS; its DMS line from six places
+         {"AngleIncline=2.978", "chkDMSsine", "optHeight"},
+         "|Incline of Angle DD=  36.555417\r\nIncline of Angle DMS= 36°  33'  20\"$"},
         {kSine, {"AngleIncline=5", "optHeight"}, "Error, Sine Bar equal or shorter than Height.|$"},
         {kSine, {"AngleIncline=0"}, both + "earlier$"},
         {kSine, {"SinePlateLength=0"}, both + "earlier$"},
         {kSine, {"AngleIncline=.5", "SinePlateLength=.5"}, "|Gage Block Height=  .0044$"},
         {kSine, {"AngleIncline=1E308"}, overflow},
         {kTruePos, {"txtXpos=.0031", "txtYpos=.0041", "dec=3"}, "|True Position=  .01$"},
-        {kPin, {"dec=3"}, "|Gage Pin Diameter=  .707$"},
+        {kPin, {"txtDiamond1=-1", "txtDiamond2=2", "dec=3"}, "|Gage Pin Diameter=  .894$"},
         {kPin, {"txtDiamond2="}, both + "$"},
         {kPin, {"txtDiamond1=x"}, both + "$"},
         {kPin, {"txtDiamond1=1E300", "txtDiamond2=1E-300"}, divide},  // an angle of 0
-        {kSub,
-         {"txtAngBall=30.3", "chkDMSbs"},
-         "|Plus/Minus Value=  .3713\r\nNew Distance= -.0713$"},
+        {kSub,  // four places for the small ball
+         {"txtAngBall=30.3", "chkDMSbs", "dec=2"},
+         "|Plus/Minus Value=  .37\r\nNew Distance= -.0713$"},
         {kSub, {"popSub#1", "txtDistance=-.3"}, "|Plus/Minus Value=  .375\r\nNew Distance=  .075$"},
         {kSub, {"txtAngBall=", "txtSmBall=0"}, "Error, Please fill all four data fields.|earlier$"},
         {kSub,
@@ -125,20 +94,28 @@ TEST(BenchWindows, CalculateRows) {
          "Error, Invalid input in data field #4|earlier$"},
         {kSub, {"txtAngBall=0"}, zero},
         {kSub, {"txtAngBall=1E308"}, overflow},
-        {kTaper, {}, "|Large End=  .7083\r\n"},  // the first case is chosen on load
+        {kTaper,  // the first case is chosen on load
+         {"dec=2"},
+         "|Large End=  .71\r\nIncluded Angle DMS= 2°  59'  1\"\r\n"
+         "Angle per Side DMS= 1°  29'  30\"\r\nIncluded Angle DD=  2.98348\r\n"
+         "Angle per Side DD=  1.49174$"},
         {kTaper, {"txt3="}, zero},
         {kTaper, {"txt1=0", "txt3=1E400"}, "Run-time error '6'"},  // every field is read
         {kTaper, {"popTaper#1", "txt1=.7083"}, "|Small End=  .5\r\n"},
         {kTaper, {"popTaper#2", "txt3=.5"}, ends},
         {kTaper, {"popTaper#2", "txt3=.7083"}, "|Length=  3.9994\r\n"},
         {kTaper, {"popTaper#3", "txt2=.5"}, ends},
+        {kTaper,
+         {"popTaper#3", "txt2=.7083"},
+         "|Taper per Foot=  .6249\r\nIncluded Angle DMS= 2°  58'  59\"\r\nAngle per Side DMS=1°"},
         {kTaper, {"popTaper#4", "txt1=4", "txt3="}, "|TaperAmount=  .2083$"},
         {kTaper, {"popTaper#4", "txt2="}, zero},
-        {kTaper, {"popTaper#5", "txt1=.75", "txt2="}, "|Included Angle DMS= 3°  34'  47\"\r\n"},
-        {kTaper, {"popTaper#6", "txt1=1.4724"}, "|Taper per Foot=  .6169$"},
         {kTaper,
-         {"popTaper#6", "optTaperDMS", "txt1=1.4724"},
-         "enter 22° 3' 22\" as 22.0322|Taper per Foot=  .75$"},
+         {"popTaper#5", "txt1=.75", "txt2="},
+         "|Included Angle DMS= 3°  34'  47\"\r\nAngle Per Side DMS= 1°  47'  24\"\r\n"
+         "Included Angle DD=  3.579822\r\nAngle Per Side DD=  1.789911$"},
+        {kTaper, {"popTaper#6", "txt1=1.4724"}, "|Taper per Foot=  .6169$"},
+        {kTaper, {"popTaper#6", "optTaperDMS", "txt1=1.4724"}, kHint + "|Taper per Foot=  .75$"},
         {kTaper, {"popTaper#6", "txt1=0"}, zero},
         {kTaper, {"popTaper#6", "txt1=1E308", "txt2="}, overflow},  // one field only
         {kTaper, {"popTaper=Small End"}, "|earlier$"},              // a typed case is no case
@@ -166,9 +143,9 @@ TEST(BenchWindows, CalculateRows) {
          "Error, Ball sizes and positions are the same.|earlier$"},
         {kF2B, {"txtSBpos=.1x"}, "Error, Invalid data entered in field #3 or #4|earlier$"},
         {kF2B, {"txtLBpos=.2 "}, "Error, Invalid data entered in field #3 or #4|earlier$"},
-        {kF2B, {"txtSBpos=.5", "txtLBpos=.5"}, divide},   // -1 meets the pole
-        {kDove, {"dec=2"}, "|Size Over Rolls=  2.683$"},  // four places always
-        {kDove, {"optSC", "txtSizeRoll=2.683"}, "|Sharp Corner Size=  2$"},
+        {kF2B, {"txtSBpos=.5", "txtLBpos=.5"}, divide},                       // -1 meets the pole
+        {kDove, {"txtRiserRoll=.1", "dec=2"}, "|Size Over Rolls=  2.7985$"},  // four places
+        {kDove, {"optSC", "txtSizeRoll=2.683", "txtRiserRoll=.1"}, "|Sharp Corner Size=  2.1155$"},
         {kDove, {"chkDoveID"}, "|Size Over Rolls=  1.317$"},
         {kDove, {"chkNotConical"}, "|Size Over Rolls=  2.3415$"},
         {kDove, {"txtAngleRoll=30.3", "chkDMSdove"}, "|Size Over Rolls=  2.6874$"},
@@ -197,13 +174,13 @@ TEST(BenchWindows, CalculateRows) {
 }
 
 TEST(BenchWindows, ImageAndHelp) {
-    const std::tuple<const Window&, QStringList, const char*> rows[] = {
+    const std::tuple<const Window&, QStringList, QString> rows[] = {
         {kSine, {"Command3"}, "frmSinePlateView"},
         {kPin, {"Command3"}, "frmPinView"},
         {kSub,
          {"Command3"},
-         "If entering the angle in Degrees Minutes Seconds enter 22° 3' 22\" as 22.0322 (always "
-         "use a leading zero for minutes or seconds less than 10)"},
+         "If entering the angle in Degrees Minutes Seconds " + kHint +
+             " (always use a leading zero for minutes or seconds less than 10)"},
         {kTaper, {"Command3"}, "frmtapersView"},
         {kB2B, {"Command3"}, "frmBallToBallHelp"},
         {kF2B,
@@ -246,11 +223,9 @@ TEST(BenchWindows, TaperCasesRememberWhatTheyDoNotSetAndCaptions) {
         h.run("frmTapers", {"popTaper#" + QString::number(taperCase)});
         EXPECT_EQ(Look(f), look) << taperCase;
     }
-    h.run("frmTapers", {"optTaperDMS", "optTaperDD"});
-    EXPECT_EQ(h.ui.messageTexts(), QStringList{QStringLiteral("enter 22° 3' 22\" as 22.0322")});
     Form& sine = h.run("frmSinePlate", {"chkDMSsine", "optHeight"});
     EXPECT_EQ(sine.caption("txtHelpAng") + "|" + sine.caption("txtSPtype"),
-              QStringLiteral("enter 22° 3' 22\" as 22.0322|Gage Block Height"));
+              kHint + "|Gage Block Height");
     h.run("frmSinePlate", {"chkDMSsine", "optAngle"});
     EXPECT_EQ(sine.caption("txtHelpAng") + "|" + sine.caption("txtSPtype"), "|Angle's Incline");
     Form& dove = h.run("frmRoll", {"optSC"});
